@@ -1,0 +1,40 @@
+// SPDX-FileCopyrightText: 2026 The HarborAPI authors
+// SPDX-License-Identifier: BSD-3-Clause
+
+#ifndef HBGUIMANAGEMENT_H
+#define HBGUIMANAGEMENT_H
+
+#include <harborapi_export.h>
+
+#include <QMainWindow>
+
+class QMenu;
+
+/**
+ * The tool's main window as the plug-in framework sees it.
+ *
+ * A tool derives its window from this class and overrides the hooks that it can serve. Every hook may
+ * return null, which is also the default: the framework then leaves out what it would have done there.
+ * The widgets that hooks return stay the tool's own.
+ */
+class HARBORAPI_EXPORT HbGUIManagement : public QMainWindow
+{
+public:
+    explicit HbGUIManagement(QWidget *parent = nullptr, Qt::WindowFlags flags = {});
+    ~HbGUIManagement() override;
+
+    /// The widget shown while the tool starts, say a splash screen; it is hidden (setVisible(false))
+    /// before plug-ins are loaded, so that it does not cover what they report.
+    virtual QWidget *getStartupWidget();
+
+    /// The menu that receives the entry "Plug-ins".
+    virtual QMenu *getPluginsMenu();
+
+    /// The widget that shows the scene's structure; repainted after a plug-in was removed.
+    virtual QWidget *getSceneWidget();
+
+    /// The widget that shows the editors of the selection; repainted after a plug-in was removed.
+    virtual QWidget *getEditorsWidget();
+};
+
+#endif
