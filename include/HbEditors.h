@@ -85,7 +85,9 @@ private:
     static std::vector<HbEditors *> &s_editors();
     static SbThreadMutex &s_editorsListMutex();
 
-    template <class Key> void enlist(Key HbEditors::*slot, const Key &key);
+    template <class Key> bool enlist(Key HbEditors::*slot, const Key &key);
+    void leaveRegistry();
+    bool servesNode(SoNode *candidate, const SbName &candidateName) const;
 
     class KeyWatch;
     std::unique_ptr<KeyWatch> m_keyWatch;

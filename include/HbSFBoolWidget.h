@@ -24,9 +24,6 @@ public:
 
 protected:
     QCheckBox *m_box;
-
-private:
-    void buildBox(const char *name);
 };
 
 #endif

@@ -1,0 +1,256 @@
+// SPDX-FileCopyrightText: 2026 The HarborAPI authors
+// SPDX-License-Identifier: BSD-3-Clause
+
+#include <HbSFieldWidget.h>
+
+#include "FieldEditorSettings.h"
+#include "support/FieldDefaults.h"
+#include "support/FieldWatch.h"
+#include "support/Icons.h"
+
+#include <HbFieldEditorCommandManager.h>
+#include <HbIntSlider.h>
+#include <HbRealSlider.h>
+#include <HbUIntSlider.h>
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+
+#include <Inventor/fields/SoField.h>
+
+namespace
+{
+QHBoxLayout *newLayout(const QString &marginKey, const QString &spacingKey, const QString &name)
+{
+    auto *const layout = new QHBoxLayout;
+    const int margin = nscsettings_fieldEditor(marginKey);
+    layout->setContentsMargins(margin, margin, margin, margin);
+    layout->setSpacing(nscsettings_fieldEditor(spacingKey));
+    layout->setObjectName(name);
+    return layout;
+}
+
+QSpacerItem *addSpacer(QHBoxLayout *layout)
+{
+    auto *const spacer = new QSpacerItem(0, 0, QSizePolicy::Minimum, QSizePolicy::Minimum);
+    layout->addItem(spacer);
+    return spacer;
+}
+
+QPushButton *newButton(QWidget *parent, const QString &name, const QPixmap &icon)
+{
+    auto *const button = new QPushButton(parent);
+    button->setObjectName(name);
+    button->setMaximumSize(nscsettings_fieldEditor(QStringLiteral("buttonWidth")),
+                           nscsettings_fieldEditor(QStringLiteral("buttonHeight")));
+    button->setIcon(icon);
+    button->setAutoDefault(false); // in a dialog, Return in an edit would press it
+    button->setFocusPolicy(Qt::NoFocus);
+    return button;
+}
+} // namespace
+
+HbSFieldWidget::HbSFieldWidget(const char *label, SFFrameType frameType, HbFieldEditorCommandManager *manager,
+                               QWidget *parent, const char *name, Qt::WindowFlags flags)
+    : HbFieldEditors(parent, flags), m_commandManager(manager), m_field(std::make_unique<FieldWatch>()),
+      m_defaultIcon(Icons::setToDefault()), m_ignoreIcon(Icons::ignoreField())
+{
+    setObjectName(name ? QString::fromUtf8(name) : QStringLiteral("HbSFieldWidget"));
+    buildSlider(frameType);
+    buildLayout();
+    languageChange();
+    connectButtons();
+    if (label)
+        m_label->setText(QString::fromUtf8(label));
+}
+
+HbSFieldWidget::HbSFieldWidget(SFFrameType frameType, HbFieldEditorCommandManager *manager, QWidget *parent,
+                               const char *name, Qt::WindowFlags flags)
+    : HbSFieldWidget(nullptr, frameType, manager, parent, name, flags)
+{
+}
+
+HbSFieldWidget::HbSFieldWidget(HbFieldEditorCommandManager *manager, QWidget *parent, const char *name,
+                               Qt::WindowFlags flags)
+    : HbSFieldWidget(nullptr, PlainFrame, manager, parent, name, flags)
+{
+}
+
+HbSFieldWidget::HbSFieldWidget(const char *label, HbFieldEditorCommandManager *manager, QWidget *parent,
+                               const char *name, Qt::WindowFlags flags)
+    : HbSFieldWidget(label, PlainFrame, manager, parent, name, flags)
+{
+}
+
+HbSFieldWidget::~HbSFieldWidget() = default;
+
+void HbSFieldWidget::buildSlider(SFFrameType frameType)
+{
+    constexpr int row = 0;
+    constexpr int col = 1;
+    const auto integer = [&](HbSlider::SliderType type) {
+        return new HbIntSlider(type, HbSlider::SingleField, this, m_commandManager, this, row, col);
+    };
+    const auto unsignedInteger = [&](HbSlider::SliderType type) {
+        return new HbUIntSlider(type, HbSlider::SingleField, this, m_commandManager, this, row, col);
+    };
+    switch (frameType) {
+    case RealSliderFrame:
+        m_editionFrame = new HbRealSlider(HbSlider::SingleField, this, m_commandManager, this, row, col);
+        break;
+    case Int32SliderFrame:
+        m_editionFrame = integer(HbSlider::Int32);
+        break;
+    case UInt32SliderFrame:
+        m_editionFrame = unsignedInteger(HbSlider::UInt32);
+        break;
+    case Int16SliderFrame:
+        m_editionFrame = integer(HbSlider::Int16);
+        break;
+    case UInt16SliderFrame:
+        m_editionFrame = unsignedInteger(HbSlider::UInt16);
+        break;
+    default:
+        break; // buildEditionFrame() makes the plain one
+    }
+}
+
+void HbSFieldWidget::buildEditionFrame()
+{
+    if (m_editionFrame) {
+        m_editLayout = static_cast<QHBoxLayout *>(m_editionFrame->layout());
+        return;
+    }
+    m_editionFrame = new QFrame(this);
+    m_editionFrame->setObjectName(QStringLiteral("m_editionFrame"));
+    m_editionFrame->setFrameStyle(QFrame::Box | QFrame::Plain);
+    m_editionFrame->setLineWidth(nscsettings_fieldEditor(QStringLiteral("frameLineWidth")));
+    m_editLayout = newLayout(QStringLiteral("SFieldEditLayoutMargin"), QStringLiteral("SFieldEditLayoutSpacing"),
+                             QStringLiteral("editLayout"));
+    m_editionFrame->setLayout(m_editLayout);
+}
+
+void HbSFieldWidget::buildLayout()
+{
+    setFrameStyle(QFrame::Box | QFrame::Plain);
+    setLineWidth(nscsettings_fieldEditor(QStringLiteral("frameLineWidth")));
+
+    m_fieldLayout = newLayout(QStringLiteral("SFieldLayoutMargin"), QStringLiteral("SFieldLayoutSpacing"),
+                              QStringLiteral("SFieldLayout"));
+    setLayout(m_fieldLayout);
+
+    m_label = new QLabel(this);
+    m_label->setObjectName(QStringLiteral("m_label"));
+    QFont font = m_label->font();
+    font.setPointSize(nscsettings_fieldEditor(QStringLiteral("labelPointSize")));
+    m_label->setFont(font);
+    m_label->setFrameStyle(QFrame::Box | QFrame::Plain);
+    m_label->setLineWidth(nscsettings_fieldEditor(QStringLiteral("labelLineWidth")));
+    m_label->setScaledContents(true);
+    m_fieldLayout->addWidget(m_label);
+    m_labelSpacer = addSpacer(m_fieldLayout);
+
+    m_editionAreaLayout = newLayout(QStringLiteral("SFEditionAreaLayMargin"), QStringLiteral("SFEditionAreaLaySpacing"),
+                                    QStringLiteral("SFieldEditionAreaLayout"));
+    buildEditionFrame();
+    m_editionAreaLayout->addWidget(m_editionFrame);
+    m_buttonSpacer = addSpacer(m_editionAreaLayout);
+
+    // named like the outer layout, deliberately
+    m_buttonLayout = newLayout(QStringLiteral("SFButtonLayoutMargin"), QStringLiteral("SFButtonLayoutSpacing"),
+                               QStringLiteral("SFieldLayout"));
+    m_defaultButton = newButton(this, QStringLiteral("m_defaultButton"), m_defaultIcon);
+    m_buttonLayout->addWidget(m_defaultButton);
+    m_ignoreButton = newButton(this, QStringLiteral("m_ignoreButton"), m_ignoreIcon);
+    m_ignoreButton->setCheckable(true);
+    m_buttonLayout->addWidget(m_ignoreButton);
+
+    m_editionAreaLayout->addLayout(m_buttonLayout);
+    m_editionAreaLayout->setSizeConstraint(QLayout::SetMinimumSize);
+    m_fieldLayout->addLayout(m_editionAreaLayout);
+}
+
+void HbSFieldWidget::connectButtons()
+{
+    if (m_commandManager)
+        connect(m_defaultButton, &QPushButton::clicked, m_commandManager.data(),
+                &HbFieldEditorCommandManager::fieldSetDefaultValue);
+    else
+        // There is no such slot, deliberately: the button does nothing then, and Qt says so.
+        connect(m_defaultButton, SIGNAL(clicked()), this, SLOT(setDefaultValue()));
+    connect(m_ignoreButton, &QPushButton::released, this, &HbSFieldWidget::ignoreButtonStateChanged);
+}
+
+void HbSFieldWidget::languageChange()
+{
+    m_defaultButton->setText(QString());
+    m_ignoreButton->setText(QString());
+    m_defaultButton->setToolTip(QStringLiteral("Set to default"));
+    m_ignoreButton->setToolTip(QStringLiteral("Ignore this field"));
+    m_defaultButton->setAccessibleName(m_defaultButton->toolTip());
+    m_ignoreButton->setAccessibleName(m_ignoreButton->toolTip());
+}
+
+SoField *HbSFieldWidget::editedField() const
+{
+    return m_field->get();
+}
+
+bool HbSFieldWidget::setField(SoField *newField)
+{
+    m_field->set(newField);
+    return true;
+}
+
+void HbSFieldWidget::refresh()
+{
+    if (const SoField *const edited = editedField())
+        m_ignoreButton->setChecked(edited->isIgnored());
+}
+
+void HbSFieldWidget::setRefresh(bool) { }
+
+void HbSFieldWidget::swapRows(int, int) { }
+
+void HbSFieldWidget::swapColumns(int, int) { }
+
+void HbSFieldWidget::set1Value(int, int, QString) { }
+
+void HbSFieldWidget::setValue(int, const void *) { }
+
+void HbSFieldWidget::applyChanges() { }
+
+bool HbSFieldWidget::edited()
+{
+    return false;
+}
+
+void HbSFieldWidget::setCommandValue()
+{
+    if (m_commandManager)
+        m_commandManager->sfieldSetValue(nullptr);
+    else
+        applyChanges();
+}
+
+void HbSFieldWidget::setFocusLeaveEvent()
+{
+    if (edited())
+        setCommandValue();
+}
+
+void HbSFieldWidget::ignoreButtonStateChanged()
+{
+    const bool ignored = m_ignoreButton->isChecked();
+    if (m_commandManager)
+        m_commandManager->fieldSetIgnored(ignored);
+    else if (SoField *const edited = editedField())
+        edited->setIgnored(ignored);
+}
+
+void HbSFieldWidget::setDefaultFieldValue()
+{
+    if (SoField *const edited = editedField())
+        setToDefault(*edited);
+}

@@ -1,0 +1,49 @@
+// SPDX-FileCopyrightText: 2026 The HarborAPI authors
+// SPDX-License-Identifier: BSD-3-Clause
+
+#ifndef INTEGERWIDGETS_H
+#define INTEGERWIDGETS_H
+
+#include "support/CoinText.h"
+
+#include <HbIntSlider.h>
+#include <HbRangeComponent.h>
+#include <HbUIntSlider.h>
+
+/// What the four editors of single integers share.
+namespace IntegerWidgets
+{
+inline void setLimits(HbIntSlider &slider, const HbRangeComponent &range)
+{
+    slider.setValidLimits(range.iMin, range.iMax, range.boundFixed);
+}
+
+inline void setLimits(HbUIntSlider &slider, const HbRangeComponent &range)
+{
+    slider.setValidLimits(static_cast<unsigned int>(qMax(range.iMin, 0)),
+                          static_cast<unsigned int>(qMax(range.iMax, 0)), range.boundFixed);
+}
+
+/// An editor's edition frame seen as the slider it is, with its limits set.
+template <class Slider> Slider *limitedSlider(QFrame *editionFrame, const HbRangeComponent &range)
+{
+    auto *const slider = static_cast<Slider *>(editionFrame);
+    setLimits(*slider, range);
+    return slider;
+}
+
+inline void show(SoField *field, HbSlider &slider)
+{
+    if (field)
+        slider.setValue(CoinText::ofField(*field));
+}
+
+/// Writes decimal text; what the field's parser makes of a number too large for it is its own affair.
+template <class Number> void write(SoField *field, Number number)
+{
+    if (field)
+        field->set(QByteArray::number(number).constData());
+}
+} // namespace IntegerWidgets
+
+#endif
