@@ -20,7 +20,9 @@ find_package(Coin REQUIRED)
 
 find_program(HARBOR_CCACHE ccache)
 if(HARBOR_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
-  set(CMAKE_CXX_COMPILER_LAUNCHER ${HARBOR_CCACHE})
+  # ccache passes over whatever uses a precompiled header unless it is told not to mind these two.
+  set(CMAKE_CXX_COMPILER_LAUNCHER
+    ${CMAKE_COMMAND} -E env CCACHE_SLOPPINESS=pch_defines,time_macros ${HARBOR_CCACHE})
 endif()
 
 add_library(harbor_options INTERFACE)

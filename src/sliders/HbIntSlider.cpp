@@ -12,11 +12,11 @@
 
 namespace
 {
-IntValidator *validatorFor(HbSlider::SliderType type, QObject *parent)
+IntValidator *validatorFor(HbSlider::SliderType type, QLineEdit *edit)
 {
     if (type == HbSlider::Int16)
-        return new IntValidator(parent, std::numeric_limits<qint16>::min(), std::numeric_limits<qint16>::max());
-    return new IntValidator(parent); // all of int
+        return new IntValidator(edit, std::numeric_limits<qint16>::min(), std::numeric_limits<qint16>::max());
+    return new IntValidator(edit); // all of int
 }
 } // namespace
 

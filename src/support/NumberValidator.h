@@ -8,10 +8,13 @@
 
 #include <QDoubleValidator>
 #include <QIntValidator>
+#include <QLineEdit>
 #include <QLocale>
 
+#include <utility>
+
 /**
- * A validator of numbers in the C locale, on every desktop.
+ * A validator of the numbers typed in a line edit, in the C locale on every desktop.
  *
  * Qt's own validators rewrite the text when a person leaves the edit; this one leaves it alone, or, once
  * told to clamp, turns a number beyond the range into the nearest bound.
@@ -19,11 +22,16 @@
 template <class QtValidator> class NumberValidator : public QtValidator
 {
 public:
-    template <class... Range> explicit NumberValidator(QObject *parent, Range... range) : QtValidator(range..., parent)
+    template <class... Range> explicit NumberValidator(QLineEdit *edit, Range... range) : QtValidator(range..., edit)
     {
         QLocale locale = QLocale::c();
         locale.setNumberOptions(QLocale::RejectGroupSeparator);
         this->setLocale(locale);
+        // QLineEdit takes a clamped text for one set by the program: it is still an edit to be committed
+        QObject::connect(edit, &QLineEdit::textChanged, this, [this, edit] {
+            if (std::exchange(m_clampedEdit, false))
+                edit->setModified(true);
+        });
     }
 
     void setClamping(bool clamping) { m_clamping = clamping; }
@@ -40,12 +48,11 @@ public:
     {
         bool converted = false;
         const double number = text.toDouble(&converted);
-        if (!m_clamping || !converted)
+        const bool beyond = number > this->top() || number < this->bottom();
+        if (!m_clamping || !converted || !beyond)
             return;
-        if (number > this->top())
-            text = textOf(this->top());
-        else if (number < this->bottom())
-            text = textOf(this->bottom());
+        text = textOf(number > this->top() ? this->top() : this->bottom());
+        m_clampedEdit = static_cast<QLineEdit *>(this->parent())->isModified();
     }
 
 private:
@@ -53,6 +60,7 @@ private:
     static QString textOf(double number) { return NumberText::fromFloat(static_cast<float>(number)); }
 
     bool m_clamping = false;
+    mutable bool m_clampedEdit = false; ///< between fixup() and the change of the text that follows
 };
 
 using IntValidator = NumberValidator<QIntValidator>;

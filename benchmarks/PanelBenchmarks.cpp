@@ -1,0 +1,196 @@
+// SPDX-FileCopyrightText: 2026 The HarborAPI authors
+// SPDX-License-Identifier: BSD-3-Clause
+
+#include "Benchmarks.h"
+#include "Comparison.h"
+#include "ManyFields.h"
+#include "PlainControls.h"
+
+#include "tools/nodescope/FieldPanel.h"
+
+#include <QCoreApplication>
+#include <QEvent>
+#include <QScrollArea>
+#include <QUndoStack>
+#include <QVBoxLayout>
+
+#include <memory>
+
+namespace
+{
+constexpr int fieldCount = 30;
+constexpr int changes = 100;
+constexpr QSize windowSize(420, 1400); // all rows can be seen
+
+/// One turn of the event loop, up to the pixels: what is out of date is painted at once, where the window
+/// system would wait for its next frame.
+void turn(QWidget &window)
+{
+    QCoreApplication::processEvents();
+    QEvent paint(QEvent::UpdateRequest);
+    QCoreApplication::sendEvent(&window, &paint);
+}
+
+void showNow(QWidget &window)
+{
+    window.resize(windowSize);
+    window.show();
+    turn(window);
+}
+
+void deleteLeftovers()
+{
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
+/// The panel, and two nodes of one class.
+class Panel
+{
+public:
+    Panel()
+    {
+        for (ManyFields *const node : {m_first, m_second})
+            node->ref();
+        showNow(m_panel);
+    }
+    ~Panel()
+    {
+        m_panel.setNode(nullptr);
+        for (ManyFields *const node : {m_first, m_second})
+            node->unref();
+    }
+    Panel(const Panel &) = delete;
+    Panel &operator=(const Panel &) = delete;
+
+    double selectFirst()
+    {
+        select(nullptr);
+        deleteLeftovers();
+        return secondsOf([this] { select(m_first); });
+    }
+
+    double selectSecond()
+    {
+        select(m_first);
+        return secondsOf([this] { select(m_second); });
+    }
+
+    double repaint()
+    {
+        select(m_first);
+        return secondsOf([this] { m_panel.repaint(); });
+    }
+
+    double changeOneField()
+    {
+        select(m_first);
+        return secondsOf([this] { change(); });
+    }
+
+    double changeAllFields()
+    {
+        select(m_first);
+        return secondsOf([this] {
+            m_first->changeAll();
+            turn(m_panel);
+            m_panel.repaint();
+        });
+    }
+
+    double changeTogether()
+    {
+        select(m_first);
+        return secondsOf([this] {
+            for (int i = 1; i < changes; ++i)
+                m_first->reals[0].setValue(nextValue());
+            change();
+        });
+    }
+
+    double changeOneByOne()
+    {
+        select(m_first);
+        return secondsOf([this] {
+            for (int i = 0; i < changes; ++i)
+                change();
+        });
+    }
+
+private:
+    float nextValue() { return m_value = m_value > 9 ? 0 : m_value + 0.1f; }
+
+    void change()
+    {
+        m_first->reals[0].setValue(nextValue());
+        turn(m_panel);
+    }
+
+    void select(SoNode *node)
+    {
+        m_panel.setNode(node);
+        turn(m_panel);
+    }
+
+    QUndoStack m_stack;
+    FieldPanel m_panel{&m_stack};
+    ManyFields *m_first = new ManyFields;
+    ManyFields *m_second = new ManyFields;
+    float m_value = 0;
+};
+
+/// Rows laid out by hand.
+class PlainPanel
+{
+public:
+    PlainPanel()
+    {
+        m_area.setWidgetResizable(true);
+        showNow(m_area);
+    }
+
+    double build()
+    {
+        delete m_area.takeWidget();
+        turn(m_area);
+        return secondsOf([this] {
+            auto *const page = new QWidget;
+            auto *const layout = new QVBoxLayout(page);
+            for (int i = 0; i < fieldCount; ++i)
+                layout->addWidget(PlainControls::vectorRow(QStringLiteral("field"), page));
+            m_area.setWidget(page);
+            turn(m_area);
+        });
+    }
+
+private:
+    QScrollArea m_area;
+};
+
+using Step = double (Panel::*)();
+
+void comparePanel(const Comparison &comparison, Step measured, Step baseline)
+{
+    compare(comparison, [=] {
+        const auto panel = std::make_shared<Panel>();
+        return Sides{[=] { return ((*panel).*measured)(); }, [=] { return ((*panel).*baseline)(); }};
+    });
+}
+} // namespace
+
+void addPanelBenchmarks()
+{
+    ManyFields::initClass();
+    const std::string selecting = "selecting a node with 30 fields";
+    compare({selecting, "30 plain rows with three edits"}, [] {
+        const auto panel = std::make_shared<Panel>();
+        const auto plain = std::make_shared<PlainPanel>();
+        return Sides{[=] { return panel->selectFirst(); }, [=] { return plain->build(); }};
+    });
+    comparePanel({selecting, "one repaint of its panel", 2}, &Panel::selectFirst, &Panel::repaint);
+    comparePanel({"selecting a second node of the class", "selecting the first", 0.6}, &Panel::selectSecond,
+                 &Panel::selectFirst);
+    comparePanel({"one field changed elsewhere", "all 30 changed and painted", 1.0 / 50}, &Panel::changeOneField,
+                 &Panel::changeAllFields);
+    comparePanel({"100 changes of a value in one turn", "painting after each change", 1.0 / 50}, &Panel::changeTogether,
+                 &Panel::changeOneByOne);
+}

@@ -1,0 +1,175 @@
+// SPDX-FileCopyrightText: 2026 The HarborAPI authors
+// SPDX-License-Identifier: BSD-3-Clause
+
+#ifndef TESTSUPPORT_H
+#define TESTSUPPORT_H
+
+#include <HbFieldEditorCommandManager.h>
+#include <HbFieldEditors.h>
+
+#include <QRegularExpression>
+#include <QStringList>
+#include <QtTest>
+
+#include <Inventor/SbString.h>
+#include <Inventor/SoDB.h>
+#include <Inventor/errors/SoDebugError.h>
+
+#include <memory>
+
+/// Collects what Qt and Coin complain about; a suite checks after each test that nothing was unexpected.
+namespace Complaints
+{
+inline QStringList unexpected;
+inline QList<QRegularExpression> expected;
+inline QtMessageHandler previousHandler = nullptr;
+
+/// What every editor without a command manager says when it is built.
+constexpr auto missingDefaultSlot = "No such slot HbSFieldWidget::setDefaultValue\\(\\)|\\((sender|receiver) name:";
+
+/// Returns whether the complaint is to be told.
+inline bool record(const QString &text)
+{
+    if (text.contains(QLatin1String("XDG_RUNTIME_DIR")) || text.contains(QLatin1String("propagateSizeHints")))
+        return false;
+    for (const QRegularExpression &pattern : expected) {
+        if (pattern.match(text).hasMatch())
+            return false;
+    }
+    unexpected << text;
+    return true;
+}
+
+inline void listen()
+{
+    SoDB::init();
+    previousHandler = qInstallMessageHandler(
+        [](QtMsgType type, const QMessageLogContext &context, const QString &text) {
+            if (type == QtDebugMsg || type == QtInfoMsg || record(text))
+                previousHandler(type, context, text);
+        });
+    SoDebugError::setHandlerCallback(
+        [](const SoError *error, void *) { record(QString::fromUtf8(error->getDebugString().getString())); }, nullptr);
+}
+
+inline void expect(const char *pattern)
+{
+    expected << QRegularExpression(QString::fromLatin1(pattern));
+}
+
+/// What nobody expected since the last call.
+inline QByteArray take()
+{
+    expected.clear();
+    return std::exchange(unexpected, {}).join(QLatin1Char('\n')).toUtf8();
+}
+} // namespace Complaints
+
+/// Writes down every command it hears.
+class RecordingManager : public HbFieldEditorCommandManager
+{
+public:
+    void mfieldSwapRows(int a, int b) override { log << QStringLiteral("swapRows %1 %2").arg(a).arg(b); }
+    void mfieldSwapColumns(int a, int b) override { log << QStringLiteral("swapColumns %1 %2").arg(a).arg(b); }
+    void mfieldDeleteRows(int row, int n) override { log << QStringLiteral("deleteRows %1 %2").arg(row).arg(n); }
+    void mfieldAddRows(int row, int n) override { log << QStringLiteral("addRows %1 %2").arg(row).arg(n); }
+    void mfieldSet1Value(int row, int col, QString text, SbString *previous) override
+    {
+        log << QStringLiteral("set1Value %1 %2 %3 %4")
+                   .arg(row)
+                   .arg(col)
+                   .arg(text.isNull() ? QStringLiteral("null") : text, take(previous));
+    }
+    void mfieldSetValue(int row, const void *) override { log << QStringLiteral("setValue %1").arg(row); }
+    void sfieldSetValue(SbString *previous) override
+    {
+        log << QStringLiteral("sfield ") + take(previous);
+        if (onCommit)
+            onCommit();
+    }
+    void fieldSetDefaultValue() override { log << QStringLiteral("default"); }
+    void fieldSetIgnored(bool ignored) override { log << QStringLiteral("ignored %1").arg(ignored); }
+
+    QStringList takeLog() { return std::exchange(log, {}); }
+
+    QStringList log;
+    std::function<void()> onCommit;
+
+private:
+    static QString take(SbString *previous)
+    {
+        const std::unique_ptr<SbString> owned(previous);
+        return owned ? QString::fromUtf8(owned->getString()) : QStringLiteral("null");
+    }
+};
+
+/// A field editor that writes down what it is told.
+class RecordingEditor : public HbFieldEditors
+{
+public:
+    RecordingEditor()
+        : HbFieldEditors(nullptr, {})
+    {
+    }
+    void updateEditor() override
+    {
+        log << QStringLiteral("update");
+        HbFieldEditors::updateEditor();
+    }
+    bool setField(SoField *edited) override
+    {
+        lastField = edited;
+        log << (edited ? QStringLiteral("setField") : QStringLiteral("setField null"));
+        return true;
+    }
+    void refresh() override { log << QStringLiteral("refresh"); }
+    void setRefresh(bool on) override { log << QStringLiteral("setRefresh %1").arg(on); }
+    void swapRows(int, int) override {}
+    void swapColumns(int, int) override {}
+    void set1Value(int row, int col, QString text) override
+    {
+        log << QStringLiteral("set1Value %1 %2 %3").arg(row).arg(col).arg(text);
+    }
+    void setValue(int, const void *) override {}
+    void applyChanges() override { log << QStringLiteral("apply"); }
+
+    QStringList takeLog() { return std::exchange(log, {}); }
+
+    using HbEditors::currentField;
+    using HbEditors::currentNode;
+    SoField *lastField = nullptr;
+    QStringList log;
+};
+
+/// A scene-graph object that is referenced as long as this lives.
+template <class Node> class Ref
+{
+public:
+    explicit Ref(Node *node = new Node)
+        : m_node(node)
+    {
+        m_node->ref();
+    }
+    ~Ref() { m_node->unref(); }
+    Q_DISABLE_COPY(Ref)
+
+    operator Node *() const { return m_node; }
+    Node *operator->() const { return m_node; }
+
+private:
+    Node *m_node;
+};
+
+/// Types @p text over what @p edit shows, as a person does; QTest itself knows no keys beyond Latin-1.
+template <class Edit> void retype(Edit *edit, const QString &text)
+{
+    edit->setFocus();
+    edit->selectAll();
+    QTest::keyClick(edit, Qt::Key_Delete);
+    for (const QChar character : text) {
+        QKeyEvent press(QEvent::KeyPress, Qt::Key_unknown, Qt::NoModifier, QString(character));
+        QCoreApplication::sendEvent(edit, &press);
+    }
+}
+
+#endif

@@ -1,0 +1,198 @@
+// SPDX-FileCopyrightText: 2026 The HarborAPI authors
+// SPDX-License-Identifier: BSD-3-Clause
+
+#include "TestSupport.h"
+
+#include "Editors/FieldEditorSettings.h"
+
+#include <HbRealSlider.h>
+#include <HbSFieldWidget.h>
+
+#include <QLabel>
+#include <QLayout>
+#include <QMetaMethod>
+#include <QPushButton>
+
+#include <Inventor/nodes/SoCone.h>
+
+namespace
+{
+/// Reaches what is protected, and counts direct writes.
+class Widget : public HbSFieldWidget
+{
+public:
+    using HbSFieldWidget::HbSFieldWidget;
+    void applyChanges() override { ++writes; }
+    bool edited() override { return isEdited; }
+
+    using HbSFieldWidget::editedField;
+    using HbSFieldWidget::setCommandValue;
+    using HbSFieldWidget::setDefaultFieldValue;
+    using HbSFieldWidget::setFocusLeaveEvent;
+    bool isEdited = false;
+    int writes = 0;
+};
+
+QPushButton *button(const QWidget &widget, const char *name)
+{
+    return widget.findChild<QPushButton *>(QLatin1String(name));
+}
+} // namespace
+
+/// What every editor shares: settings, commands, the frame of the single-value editors.
+class TestEditors : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { Complaints::listen(); }
+    void cleanup() { QCOMPARE(Complaints::take(), QByteArray()); }
+
+    void settings()
+    {
+        QCOMPARE(nscsettings_fieldEditor(QStringLiteral("MFGlobalLayoutMarging")), 6);
+        QCOMPARE(nscsettings_fieldEditor(QStringLiteral("MFGlobalLayoutMargin")), 0);
+        QCOMPARE(nscsettings_fieldEditor(QStringLiteral("sfieldlayoutmargin")), 0);
+        QCOMPARE(nscsettings_fieldEditor(QString()), 0);
+        QCOMPARE(nscsettings_fieldEditor(QStringLiteral("MFTableMinHeightUnix")), 46);
+    }
+
+    void commandOverloads()
+    {
+        RecordingManager manager;
+        QStringList slotNames;
+        for (int i = QObject::staticMetaObject.methodCount(); i < manager.metaObject()->methodCount(); ++i) {
+            const QMetaMethod method = manager.metaObject()->method(i);
+            const QByteArray parameters = method.parameterNames().join(',');
+            slotNames << QString::fromLatin1(method.methodSignature() + ' ' + parameters);
+        }
+        QCOMPARE(slotNames,
+                 QStringList({"mfieldSwapRows(int,int) ,", "mfieldSwapColumns(int,int) ,",
+                              "mfieldDeleteRows(int,int) topRow,numValues", "mfieldDeleteRows(int) topRow",
+                              "mfieldAddRows(int,int) row,numRows",
+                              "mfieldSet1Value(int,int,QString,SbString*) row,col,,previousData",
+                              "mfieldSet1Value(int,int,QString) row,col,", "mfieldSet1Value(int,int) row,col",
+                              "mfieldSet1Value(int) row", "mfieldSetValue(int,const void*) row,data",
+                              "sfieldSetValue(SbString*) previousData", "sfieldSetValue() ", "fieldSetDefaultValue() ",
+                              "fieldSetIgnored(bool) "}));
+        QMetaObject::invokeMethod(&manager, "mfieldDeleteRows", Q_ARG(int, 4));
+        QMetaObject::invokeMethod(&manager, "mfieldSet1Value", Q_ARG(int, 2));
+        QCOMPARE(manager.takeLog(), QStringList({"deleteRows 4 1", "set1Value 2 -1 null null"}));
+    }
+
+    void slotsOfTheFrame()
+    {
+        const QMetaObject &meta = HbSFieldWidget::staticMetaObject;
+        QStringList slotNames;
+        for (int i = meta.methodOffset(); i < meta.methodCount(); ++i) {
+            slotNames << QString::fromLatin1(meta.method(i).methodSignature());
+            QCOMPARE(meta.method(i).access(), QMetaMethod::Protected);
+        }
+        QCOMPARE(slotNames,
+                 QStringList({"languageChange()", "setCommandValue()", "setFocusLeaveEvent()",
+                              "ignoreButtonStateChanged()", "setDefaultFieldValue()"}));
+    }
+
+    void looks()
+    {
+        RecordingManager manager;
+        const Widget widget("height", Widget::PlainFrame, &manager, nullptr, nullptr, {});
+        QCOMPARE(widget.objectName(), QStringLiteral("HbSFieldWidget"));
+        QCOMPARE(widget.findChild<QLabel *>(QStringLiteral("m_label"))->text(), QStringLiteral("height"));
+        QCOMPARE(widget.layout()->contentsMargins(), QMargins(4, 4, 4, 4));
+        QCOMPARE(widget.findChildren<QLayout *>(QStringLiteral("SFieldLayout")).size(), 2);
+        for (const char *const name : {"m_defaultButton", "m_ignoreButton"}) {
+            QVERIFY(button(widget, name)->text().isEmpty() && !button(widget, name)->toolTip().isEmpty());
+            QCOMPARE(button(widget, name)->icon().availableSizes(), QList<QSize>({QSize(16, 16)}));
+            QVERIFY(!button(widget, name)->autoDefault());
+        }
+        const Widget slider(Widget::RealSliderFrame, &manager, nullptr, "mine", {});
+        QVERIFY(slider.findChild<HbRealSlider *>());
+        QCOMPARE(slider.objectName(), QStringLiteral("mine"));
+        const Widget odd(static_cast<Widget::SFFrameType>(77), &manager, nullptr, nullptr, {});
+        QVERIFY(odd.findChild<QFrame *>(QStringLiteral("m_editionFrame")));
+    }
+
+    void managedEditorsReport()
+    {
+        RecordingManager manager;
+        const Ref<SoCone> cone;
+        Widget widget(&manager, nullptr, nullptr, {});
+        QVERIFY(widget.setField(&cone->height));
+        widget.refresh();
+        widget.setFocusLeaveEvent(); // nothing was edited
+        widget.isEdited = true;
+        widget.setFocusLeaveEvent();
+        widget.setCommandValue();
+        button(widget, "m_ignoreButton")->click();
+        button(widget, "m_defaultButton")->click();
+        QCOMPARE(manager.takeLog(), QStringList({"sfield null", "sfield null", "ignored 1", "default"}));
+        QVERIFY(!cone->height.isIgnored());
+        QCOMPARE(widget.writes, 0);
+        widget.refresh();
+        QVERIFY(!button(widget, "m_ignoreButton")->isChecked());
+    }
+
+    void unmanagedEditorsWrite()
+    {
+        Complaints::expect(Complaints::missingDefaultSlot);
+        const Ref<SoCone> cone;
+        cone->height = 7;
+        auto manager = std::make_unique<RecordingManager>();
+        Widget orphan(manager.get(), nullptr, nullptr, {});
+        manager.reset(); // from here on as if there never was one
+        Widget alone("x", nullptr, nullptr, nullptr, {});
+        for (Widget *const widget : {&alone, &orphan}) {
+            widget->setField(&cone->height);
+            widget->setCommandValue();
+            QCOMPARE(widget->writes, 1);
+            cone->height.setIgnored(FALSE);
+            widget->refresh();
+            button(*widget, "m_ignoreButton")->click();
+            QVERIFY(cone->height.isIgnored());
+            button(*widget, "m_defaultButton")->click();
+            QCOMPARE(cone->height.getValue(), 7.0f);
+        }
+    }
+
+    void defaultValueIsWrittenDirectly()
+    {
+        RecordingManager manager;
+        const Ref<SoCone> cone;
+        Widget widget(&manager, nullptr, nullptr, {});
+        widget.setField(&cone->height);
+        cone->height = 7;
+        widget.setDefaultFieldValue();
+        QCOMPARE(cone->height.getValue(), 2.0f);
+        QCOMPARE(manager.takeLog(), QStringList());
+
+        SoSFFloat loose; // without a container
+        loose = 3;
+        widget.setField(&loose);
+        widget.setDefaultFieldValue();
+        QCOMPARE(loose.getValue(), 3.0f);
+    }
+
+    void safeWithoutAField()
+    {
+        Complaints::expect(Complaints::missingDefaultSlot);
+        Widget widget(nullptr, nullptr, nullptr, {});
+        const auto useAll = [&widget] {
+            widget.refresh();
+            widget.setCommandValue();
+            widget.setDefaultFieldValue();
+            button(widget, "m_ignoreButton")->click();
+            widget.updateEditor();
+        };
+        useAll();
+        {
+            const Ref<SoCone> cone;
+            widget.setField(&cone->height);
+        }
+        QCOMPARE(widget.editedField(), nullptr); // it died
+        useAll();
+    }
+};
+
+QTEST_MAIN(TestEditors)
+#include "tst_editors.moc"

@@ -1,0 +1,412 @@
+// SPDX-FileCopyrightText: 2026 The HarborAPI authors
+// SPDX-License-Identifier: BSD-3-Clause
+
+#include "TestSupport.h"
+
+#include "sliders/IntegerText.h"
+
+#include <HbIntSlider.h>
+#include <HbRangeSettings.h>
+#include <HbRealSlider.h>
+#include <HbUIntSlider.h>
+
+#include <QCheckBox>
+#include <QLineEdit>
+#include <QSlider>
+
+#include <cmath>
+#include <limits>
+
+namespace
+{
+constexpr float inf = std::numeric_limits<float>::infinity();
+constexpr int intMin = std::numeric_limits<int>::min();
+constexpr int intMax = std::numeric_limits<int>::max();
+
+/// A slider with what a test wants to reach of it.
+template <class Slider> struct Bench {
+    template <class... Type>
+    explicit Bench(HbSlider::SliderParentType parentType, HbFieldEditorCommandManager *manager, Type... type)
+        : control(type..., parentType, &editor, manager, nullptr, 3, 1)
+        , edit(control.template findChild<QLineEdit *>())
+        , slider(control.template findChild<QSlider *>())
+    {
+        control.show();
+    }
+
+    void drag(const QList<int> &positions)
+    {
+        slider->setSliderDown(true);
+        for (const int position : positions)
+            slider->setSliderPosition(position);
+        slider->setSliderDown(false);
+    }
+
+    RecordingEditor editor;
+    Slider control;
+    QLineEdit *edit;
+    QSlider *slider;
+};
+} // namespace
+
+class TestSliders : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { Complaints::listen(); }
+    void cleanup() { QCOMPARE(Complaints::take(), QByteArray()); }
+
+    void dragOfASingleField_data()
+    {
+        QTest::addColumn<bool>("managed");
+        QTest::addColumn<bool>("live");
+        QTest::addColumn<QString>("editorLog");
+        QTest::addColumn<QString>("managerLog");
+        QTest::newRow("direct, live") << false << true << "apply apply apply" << "";
+        QTest::newRow("direct, at the end") << false << false << "apply" << "";
+        QTest::newRow("managed, live") << true << true << "apply apply" << "sfield 10";
+        QTest::newRow("managed, at the end") << true << false << "" << "sfield 10";
+    }
+
+    void dragOfASingleField()
+    {
+        QFETCH(bool, managed);
+        RecordingManager manager;
+        Bench<HbIntSlider> bench(HbSlider::SingleField, managed ? &manager : nullptr, HbSlider::Int32);
+        bench.control.setValidLimits(0, 100, false);
+        bench.control.setValue(QStringLiteral("10"));
+        QFETCH(bool, live);
+        bench.control.setChecked(live);
+        bench.drag({20, 30});
+        QTEST(bench.editor.takeLog().join(QLatin1Char(' ')), "editorLog");
+        QTEST(manager.takeLog().join(QLatin1Char(' ')), "managerLog");
+        QCOMPARE(bench.edit->text(), QStringLiteral("30"));
+        QCOMPARE(bench.control.getIntValue(), 30);
+    }
+
+    void dragOfACell()
+    {
+        RecordingManager manager;
+        Bench<HbUIntSlider> bench(HbSlider::TableCell, &manager, HbSlider::UInt32);
+        bench.control.setValidLimits(0, 255, false);
+        bench.control.setValue(QStringLiteral("0x1f"));
+        bench.drag({bench.slider->minimum() + 0x20});
+        QCOMPARE(bench.editor.takeLog(),
+                 QStringList({"setRefresh 0", "set1Value 3 1 0x20", "setRefresh 1", "setRefresh 0", "setRefresh 1"}));
+        QCOMPARE(manager.takeLog(), QStringList({"set1Value 3 1 0x20 0x1f"}));
+    }
+
+    void releaseWithoutPressPassesNoPreviousValue()
+    {
+        RecordingManager manager;
+        Bench<HbRealSlider> bench(HbSlider::SingleField, &manager);
+        bench.control.changeValueAfterFinish(0);
+        bench.drag({});
+        bench.control.changeValueAfterFinish(0);
+        QCOMPARE(manager.takeLog(), QStringList({"sfield null", "sfield 0", "sfield null"}));
+    }
+
+    void programMovesReportNothing()
+    {
+        RecordingManager manager;
+        Bench<HbRealSlider> bench(HbSlider::SingleField, &manager);
+        bench.control.setRealValue(50);
+        bench.control.setValidLimits(-10, 10, true); // the range moves the position as well
+        bench.control.setValidLimits(20, 30, false);
+        bench.control.updateSlider();
+        QCOMPARE(bench.editor.takeLog() + manager.takeLog(), QStringList());
+    }
+
+    void returnReportsTwiceUntilRefreshed()
+    {
+        RecordingManager manager;
+        Bench<HbIntSlider> bench(HbSlider::SingleField, &manager, HbSlider::Int32);
+        bench.control.setValue(QStringLiteral("1"));
+        QTest::keyClick(bench.edit, Qt::Key_Return); // nothing typed yet
+        QCOMPARE(manager.takeLog(), QStringList());
+        retype(bench.edit, QStringLiteral("42"));
+        QTest::keyClick(bench.edit, Qt::Key_Return);
+        QCOMPARE(manager.takeLog(), QStringList({"sfield null", "sfield null"}));
+        manager.onCommit = [&] { bench.control.setValue(QStringLiteral("42")); };
+        QTest::keyClick(bench.edit, Qt::Key_Return);
+        QCOMPARE(manager.takeLog(), QStringList({"sfield null"}));
+        QCOMPARE(bench.slider->value(), 42);
+    }
+
+    void hostMayDeleteTheSliderInAnswer()
+    {
+        RecordingManager manager;
+        auto *const slider = new HbIntSlider(HbSlider::Int32, HbSlider::SingleField, nullptr, &manager, nullptr, 0, 1);
+        slider->setValidLimits(0, 100, false);
+        manager.onCommit = [slider] { delete slider; };
+        slider->changeValueAfterFinish(7);
+        QCOMPARE(manager.takeLog(), QStringList({"sfield null"}));
+    }
+
+    void partnersMayDieFirst()
+    {
+        auto manager = std::make_unique<RecordingManager>();
+        auto editor = std::make_unique<RecordingEditor>();
+        HbIntSlider slider(HbSlider::Int32, HbSlider::TableCell, editor.get(), manager.get(), nullptr, 0, 0);
+        manager.reset();
+        slider.changeValueFromSlider(5);
+        slider.changeValueAfterFinish(5);
+        QCOMPARE(editor->takeLog(), QStringList({"setRefresh 0", "set1Value 0 0 5", "setRefresh 1"}));
+        editor.reset();
+        slider.changeValueAfterFinish(5);
+        slider.findChild<QSlider *>()->setValue(9);
+    }
+
+    void firstValueDecidesTheBase_data()
+    {
+        QTest::addColumn<QString>("first");
+        QTest::addColumn<QString>("shown");
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<int>("value");
+        QTest::addColumn<bool>("validated");
+        QTest::newRow("hexadecimal") << "0x1F" << "1F" << "0x1F" << 31 << false;
+        QTest::newRow("octal") << "07" << "7" << "07" << 7 << false;
+        QTest::newRow("long zero is decimal") << "017" << "017" << "017" << 17 << true;
+        QTest::newRow("too short for hexadecimal") << "0x" << "x" << "0x" << 0 << false;
+        QTest::newRow("negative") << "-12" << "-12" << "-12" << -12 << true;
+        QTest::newRow("no number") << "abc" << "abc" << "abc" << 0 << true;
+        QTest::newRow("too large") << "99999999999" << "99999999999" << "99999999999" << 0 << true;
+    }
+
+    void firstValueDecidesTheBase()
+    {
+        Bench<HbIntSlider> bench(HbSlider::SingleField, nullptr, HbSlider::Int32);
+        QFETCH(QString, first);
+        bench.control.setValue(first);
+        QTEST(bench.edit->text(), "shown");
+        QTEST(bench.control.getText(), "text");
+        QTEST(bench.control.getIntValue(), "value");
+        QTEST(bench.edit->validator() != nullptr, "validated");
+    }
+
+    void hexadecimalEditShowsDigitsAndTellsTheDecimal()
+    {
+        Bench<HbIntSlider> bench(HbSlider::SingleField, nullptr, HbSlider::Int16);
+        bench.control.setValidLimits(-100, 100, false);
+        bench.control.setValue(QStringLiteral("0x10"));
+        bench.drag({-31});
+        QCOMPARE(bench.edit->text(), QStringLiteral("-1f"));
+        QVERIFY(bench.edit->toolTip().contains(QLatin1String("-31")));
+        retype(bench.edit, QStringLiteral("fffff"));
+        QTest::keyClick(bench.edit, Qt::Key_Return);
+        QCOMPARE(bench.control.getIntValue(), 32767); // no validator, but its bounds
+        QCOMPARE(IntegerText::digits(std::numeric_limits<qint64>::min(), 16), QStringLiteral("-8000000000000000"));
+    }
+
+    void signedLimits()
+    {
+        Bench<HbIntSlider> bench(HbSlider::SingleField, nullptr, HbSlider::Int16);
+        bench.control.setValidLimits(-100000, 100000, false);
+        QCOMPARE(bench.slider->minimum(), -32768);
+        QCOMPARE(bench.slider->maximum(), 32767);
+        bench.control.setValidLimits(0, 10, false);
+        bench.control.setValue(QStringLiteral("12")); // grows
+        QCOMPARE(bench.slider->maximum(), 12);
+        bench.control.setValidLimits(0, 10, true);
+        bench.control.setTop(50);
+        bench.control.setValue(QStringLiteral("50"));
+        QCOMPARE(bench.control.getIntValue(), 10);
+        QCOMPARE(bench.slider->maximum(), 10);
+    }
+
+    void unsignedLimitsLockOnlyWhatIsAllowed()
+    {
+        Bench<HbUIntSlider> bench(HbSlider::SingleField, nullptr, HbSlider::UInt32);
+        bench.control.setValidLimits(0, 100, false);
+        QCOMPARE(bench.slider->minimum(), intMin);
+        QCOMPARE(bench.slider->maximum(), intMin + 100);
+        bench.control.setValidLimits(0, 50, true);
+        QCOMPARE(bench.slider->maximum(), intMin + 100);
+        bench.control.setValue(QStringLiteral("70"));
+        QCOMPARE(bench.control.getUIntValue(), 50u);
+        retype(bench.edit, QStringLiteral("rubbish"));
+        QTest::keyClick(bench.edit, Qt::Key_Return);
+        QCOMPARE(bench.control.getUIntValue(), 50u);
+
+        Bench<HbUIntSlider> lockedFirst(HbSlider::SingleField, nullptr, HbSlider::UInt32);
+        lockedFirst.control.setValidLimits(0, 50, true);
+        lockedFirst.control.setValue(QStringLiteral("20"));
+        QCOMPARE(lockedFirst.control.getUIntValue(), 0u);
+
+        Bench<HbUIntSlider> shortOne(HbSlider::SingleField, nullptr, HbSlider::UInt16);
+        shortOne.control.setValue(QStringLiteral("70000"));
+        QCOMPARE(shortOne.control.getUIntValue(), 65535u);
+    }
+
+    void extremesOfIntegers()
+    {
+        Bench<HbIntSlider> whole(HbSlider::SingleField, nullptr, HbSlider::Int32);
+        whole.control.setValidLimits(intMin, intMax, false);
+        whole.control.setValidLimits(intMin, 0, true); // 2^31 wide, which Qt 5 cannot paint
+        whole.control.setValue(QString::number(intMin));
+        whole.control.grab();
+        whole.control.setValidLimits(10, -10, true);
+        whole.control.setValue(QStringLiteral("0"));
+        QCOMPARE(whole.control.getIntValue(), 10);
+
+        Bench<HbUIntSlider> natural(HbSlider::SingleField, nullptr, HbSlider::UInt32);
+        natural.control.setValue(QStringLiteral("4294967295"));
+        QCOMPARE(natural.control.getUIntValue(), 4294967295u);
+        QCOMPARE(natural.slider->value(), intMax);
+        natural.control.setValidLimits(0, 4294967295u, false);
+        natural.drag({intMin});
+        QCOMPARE(natural.edit->text(), QStringLiteral("0"));
+    }
+
+    void positionsOfReals()
+    {
+        Bench<HbRealSlider> bench(HbSlider::SingleField, nullptr);
+        bench.control.setValidLimits(0, 10, false);
+        QCOMPARE(bench.control.sliderToInt(2.5f), 25);
+        QCOMPARE(bench.control.sliderToFloat(25), 2.5f);
+        bench.control.setValidLimits(5, 10, false);
+        QCOMPARE(bench.control.sliderToInt(7.5f), 55); // no inverse: deliberate
+        QCOMPARE(bench.control.sliderToFloat(55), 7.75f);
+        bench.control.setValidLimits(-3, 0, false);
+        QCOMPARE(bench.control.sliderToInt(-3), -2); // toward zero
+    }
+
+    void oddRealRanges_data()
+    {
+        constexpr float largest = std::numeric_limits<float>::max();
+        QTest::addColumn<float>("min");
+        QTest::addColumn<float>("max");
+        QTest::addColumn<float>("value");
+        QTest::newRow("empty") << 1.0f << 1.0f << 1.0f;
+        QTest::newRow("turned") << 5.0f << -5.0f << 0.0f;
+        QTest::newRow("all floats") << -largest << largest << 1e38f;
+        QTest::newRow("infinite") << -inf << inf << -inf;
+        QTest::newRow("half infinite") << 0.0f << inf << inf;
+        QTest::newRow("not a number") << NAN << NAN << NAN;
+        QTest::newRow("tiny") << 0.0f << std::numeric_limits<float>::denorm_min() << 0.0f;
+    }
+
+    void oddRealRanges()
+    {
+        QFETCH(float, min);
+        QFETCH(float, max);
+        QFETCH(float, value);
+        for (const bool lock : {false, true}) {
+            Bench<HbRealSlider> bench(HbSlider::SingleField, nullptr);
+            bench.control.setValidLimits(min, max, lock);
+            bench.control.setRealValue(value);
+            bench.control.grab();
+            bench.drag({intMin, 0, 50, intMax});
+            retype(bench.edit, QStringLiteral("1e38"));
+            QTest::keyClick(bench.edit, Qt::Key_Return);
+            for (const int position : {intMin, -1, 0, 1, 100, intMax})
+                QVERIFY(std::isnan(min) || !std::isnan(bench.control.sliderToFloat(position)));
+        }
+    }
+
+    void realTextAndLimits()
+    {
+        RecordingManager manager;
+        Bench<HbRealSlider> bench(HbSlider::SingleField, &manager);
+        bench.control.setValidLimits(0, 10, false);
+        bench.control.setRealValue(0.123456789f);
+        QCOMPARE(bench.edit->text(), QStringLiteral("0.123457"));
+        QCOMPARE(bench.control.getRealValue(), 0.123457f);
+        bench.control.setRealValue(25);
+        QCOMPARE(bench.control.getTop(), 25.0f);
+        bench.control.setRealValue(NAN);
+        QCOMPARE(bench.edit->text(), QStringLiteral("nan"));
+        QVERIFY(std::isnan(bench.control.getRealValue()));
+        QString tooLarge = QStringLiteral("1e39");
+        bench.control.setText(tooLarge);
+        bench.control.setValueFromEdit();
+        QCOMPARE(bench.control.getRealValue(), 0.0f);
+    }
+
+    void lockedTypingIsClampedOnCommit_data()
+    {
+        QTest::addColumn<bool>("byReturn");
+        QTest::newRow("by Return") << true;
+        QTest::newRow("by leaving") << false;
+    }
+
+    void lockedTypingIsClampedOnCommit()
+    {
+        QFETCH(bool, byReturn);
+        const auto commit = [byReturn](QLineEdit *edit) {
+            if (byReturn)
+                QTest::keyClick(edit, Qt::Key_Return);
+            else
+                QCoreApplication::sendEvent(edit, std::make_unique<QFocusEvent>(QEvent::FocusOut).get());
+        };
+        RecordingManager manager;
+        Bench<HbRealSlider> real(HbSlider::SingleField, &manager);
+        real.control.setValidLimits(0.1f, 2.0f / 3.0f, true); // bounds that 6 digits do not tell exactly
+        real.control.setRealValue(0.5f);
+        retype(real.edit, QStringLiteral("7"));
+        commit(real.edit);
+        QCOMPARE(real.control.getRealValue(), 2.0f / 3.0f);
+        QVERIFY(manager.takeLog().contains(QLatin1String("sfield null")));
+        QCOMPARE(real.edit->text(), QStringLiteral("0.666667"));
+
+        Bench<HbIntSlider> integer(HbSlider::SingleField, &manager, HbSlider::Int32);
+        integer.control.setValidLimits(10, 50, true);
+        integer.control.setValue(QStringLiteral("20"));
+        retype(integer.edit, QStringLiteral("3"));
+        commit(integer.edit);
+        QCOMPARE(integer.control.getIntValue(), 10);
+        QVERIFY(!manager.takeLog().isEmpty());
+        retype(integer.edit, QStringLiteral("-"));
+        commit(integer.edit);
+        QCOMPARE(manager.takeLog(), QStringList()); // unfinished
+    }
+
+    void commaLocaleChangesNothing()
+    {
+        QLocale::setDefault(QLocale(QLocale::German));
+        Bench<HbRealSlider> bench(HbSlider::SingleField, nullptr);
+        bench.control.setRealValue(0.5f);
+        bench.edit->setFocus();
+        QTest::keyClick(bench.edit, Qt::Key_Tab);
+        QCOMPARE(bench.edit->text(), QStringLiteral("0.5"));
+        retype(bench.edit, QStringLiteral("1,5"));
+        QTest::keyClick(bench.edit, Qt::Key_Return);
+        QCOMPARE(bench.control.getRealValue(), 15.0f); // the comma is not taken
+        retype(bench.edit, QStringLiteral("1.25"));
+        QTest::keyClick(bench.edit, Qt::Key_Return);
+        QCOMPARE(bench.control.getRealValue(), 1.25f);
+        QLocale::setDefault(QLocale::c());
+    }
+
+    void wheelNeedsFocus()
+    {
+        QWidget window;
+        Bench<HbIntSlider> bench(HbSlider::SingleField, nullptr, HbSlider::Int32);
+        bench.control.setValidLimits(0, 100, false);
+        bench.control.setParent(&window);
+        window.show();
+        QWheelEvent wheel({5, 5}, {5, 5}, {}, {0, 120}, Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+        QCoreApplication::sendEvent(bench.slider, &wheel);
+        QCOMPARE(bench.slider->value(), 0);
+        QVERIFY(!wheel.isAccepted());
+        bench.control.setParent(nullptr);
+    }
+
+    void ranges()
+    {
+        const HbRangeSettings settings;
+        QCOMPARE(settings.getFieldRange("Material", "transparency"), HbRangeComponent(0.0f, 1.0f, true));
+        QCOMPARE(settings.getFieldRange("DefaultNode", "intField"), HbRangeComponent(0, 100, false));
+        QCOMPARE(settings.getFieldRange("Material", "shininess"), HbRangeComponent());
+        QVERIFY(!settings.isBounded("Material", "shininess"));
+        QVERIFY(settings.isBounded("Complexityv", "alue"));
+        const HbRangeComponent odd(NAN, 1.0f, false);
+        QVERIFY(odd != HbRangeComponent(odd));
+        QCOMPARE(settings.checkBase(QStringLiteral("0x1")), 16);
+        QCOMPARE(settings.checkBase(QStringLiteral("017")), 10);
+    }
+};
+
+QTEST_MAIN(TestSliders)
+#include "tst_sliders.moc"

@@ -1,0 +1,117 @@
+// SPDX-FileCopyrightText: 2026 The HarborAPI authors
+// SPDX-License-Identifier: BSD-3-Clause
+
+#include "Demo.h"
+
+#include "FieldPanel.h"
+#include "MainWindow.h"
+#include "SceneDocument.h"
+#include "SceneTree.h"
+
+#include <HbSFFloatWidget.h>
+
+#include <Inventor/fields/SoSFFloat.h>
+#include <Inventor/lists/SoFieldList.h>
+#include <Inventor/nodes/SoShape.h>
+
+#include <QAction>
+#include <QApplication>
+#include <QKeyEvent>
+#include <QLineEdit>
+
+namespace {
+
+constexpr int pause = 350; // milliseconds, so that an onlooker can follow
+
+bool hasNumber(const SoNode *node)
+{
+    SoFieldList fields;
+    const int count = node->getFields(fields);
+    for (int i = 0; i < count; ++i)
+        if (fields[i]->isOfType(SoSFFloat::getClassTypeId()) && !fields[i]->isConnected())
+            return true;
+    return false;
+}
+
+/// The places of the first shapes, and last of one with a number to edit, in the order of the scene.
+bool collectShapes(const SoNode *parent, const ScenePath &path, QVector<ScenePath> *found)
+{
+    constexpr int enough = 3;
+    int index = 0;
+    for (const SoNode *child : childrenOf(parent)) {
+        const ScenePath place = path + ScenePath {index++};
+        if (child->isOfType(SoShape::getClassTypeId()) && hasNumber(child))
+            found->append(place);
+        if (found->size() >= enough || collectShapes(child, place, found))
+            return true;
+    }
+    return false;
+}
+
+void press(QWidget *widget, int key, const QString &text = {}, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
+{
+    for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
+        QKeyEvent event(type, key, modifiers, text);
+        QApplication::sendEvent(widget, &event);
+    }
+}
+
+} // namespace
+
+Demo::Demo(MainWindow *window) : QObject(window), m_window(window)
+{
+    m_timer.setInterval(pause);
+    connect(&m_timer, &QTimer::timeout, this, &Demo::nextStep);
+}
+
+void Demo::start()
+{
+    QVector<ScenePath> shapes;
+    collectShapes(m_window->document()->root(), {}, &shapes);
+    for (const ScenePath &shape : qAsConst(shapes))
+        m_steps.emplace_back([this, shape] { return selectNode(shape); });
+    m_steps.emplace_back([this] { return typeNumber(); });
+    m_steps.emplace_back([this] { return undo(); });
+    m_timer.start();
+}
+
+void Demo::nextStep()
+{
+    const bool worked = m_steps[m_next++]();
+    if (worked && m_next < m_steps.size())
+        return;
+    m_timer.stop();
+    Q_EMIT finished(worked);
+}
+
+bool Demo::selectNode(const QVector<int> &path)
+{
+    m_window->tree()->select(path);
+    return m_window->tree()->selectedNode() != nullptr;
+}
+
+bool Demo::typeNumber()
+{
+    QLineEdit *edit = numberEdit();
+    if (!edit)
+        return false;
+    const QString number = QString::number(edit->text().toDouble() * 1.5 + 0.25, 'g', 3);
+    edit->setFocus();
+    press(edit, Qt::Key_A, {}, Qt::ControlModifier);
+    for (const QChar digit : number)
+        press(edit, digit.unicode(), QString(digit));
+    press(edit, Qt::Key_Return, QStringLiteral("\r"));
+    return m_window->document()->undoStack()->count() == 1;
+}
+
+bool Demo::undo()
+{
+    m_window->findChild<QAction *>(QStringLiteral("undo"))->trigger();
+    return m_window->document()->undoStack()->index() == 0 && !m_window->document()->isModified();
+}
+
+QLineEdit *Demo::numberEdit() const
+{
+    const auto *editor = m_window->panel()->findChild<HbSFFloatWidget *>();
+    return editor ? editor->findChild<QLineEdit *>() : nullptr;
+}

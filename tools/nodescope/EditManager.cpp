@@ -1,0 +1,276 @@
+// SPDX-FileCopyrightText: 2026 The HarborAPI authors
+// SPDX-License-Identifier: BSD-3-Clause
+
+#include "EditManager.h"
+
+#include "FieldCommand.h"
+#include "FieldText.h"
+
+#include <HbFieldEditors.h>
+
+#include <QEvent>
+#include <QLineEdit>
+#include <QScopedValueRollback>
+#include <QSlider>
+#include <QUndoStack>
+
+#include <Inventor/SbString.h>
+#include <Inventor/fields/SoFieldContainer.h>
+#include <Inventor/fields/SoMField.h>
+#include <Inventor/sensors/SoFieldSensor.h>
+
+namespace
+{
+/// Hears whether a field is written. Coin's parsers refuse a text in silence and may have stored half of it.
+class WriteWatch : public SoFieldSensor
+{
+public:
+    explicit WriteWatch(SoField &field) : SoFieldSensor(nullptr, nullptr)
+    {
+        const SoFieldContainer *const container = field.getContainer();
+        m_written = !field.isNotifyEnabled() || (container && !container->isNotifyEnabled()); // else nobody would know
+        attach(&field);
+    }
+
+    bool isWritten() const { return m_written; }
+    void notify(SoNotList *) override { m_written = true; }
+
+private:
+    bool m_written;
+};
+} // namespace
+
+EditManager::EditManager(QUndoStack *stack, QObject *parent)
+    : HbFieldEditorCommandManager(parent), m_stack(stack), m_series(FieldCommand::newSeries())
+{
+}
+
+void EditManager::setEditor(HbFieldEditors *editor)
+{
+    m_editor = editor;
+    m_slider = editor->findChild<QSlider *>();
+    m_edit = editor->findChild<QLineEdit *>();
+    if (!m_slider)
+        return;
+    // connected after the library's own connections: its slots have run when these do, but for the first
+    connect(m_slider, &QSlider::actionTriggered, this, [this] {
+        if (!isHeld())
+            remember();
+    });
+    connect(m_slider, &QSlider::valueChanged, this, &EditManager::sliderStepped);
+    connect(m_slider, &QSlider::sliderPressed, this, &EditManager::hold);
+    connect(m_stack, &QUndoStack::indexChanged, this, [this] {
+        if (isHeld()) // undone in the middle of a drag: the drag starts from here
+            remember();
+    });
+    m_slider->installEventFilter(this);
+}
+
+void EditManager::setField(SoField *field)
+{
+    m_hold.reset();
+    m_series = FieldCommand::newSeries();
+    m_field = field;
+    m_before.reset();
+    m_editor->setField(field);
+}
+
+void EditManager::refresh()
+{
+    const QScopedValueRollback<bool> guard(m_refreshing, true);
+    m_editor->refresh();
+    remember();
+}
+
+bool EditManager::isListening() const
+{
+    return m_field && m_stack && !m_refreshing;
+}
+
+/// Where the field cannot be edited: says why, and takes back what the slider wrote on the way.
+bool EditManager::refuse(const FieldSnapshot &before)
+{
+    const QString obstacle = FieldText::obstacle(*m_field);
+    if (obstacle.isEmpty())
+        return false;
+    before.restore(*m_field);
+    refresh();
+    Q_EMIT message(obstacle);
+    return true;
+}
+
+void EditManager::edit(const std::function<void()> &write)
+{
+    if (isListening())
+        edit(FieldSnapshot(*m_field), write);
+}
+
+void EditManager::edit(const FieldSnapshot &before, const std::function<void()> &write)
+{
+    if (refuse(before))
+        return;
+    const OwnEdit own;
+    const WriteWatch watch(*m_field);
+    write();
+    const bool isAccepted = watch.isWritten();
+    if (isAccepted)
+        record(before, FieldCommand::noSeries);
+    else
+        before.restore(*m_field);
+    refresh(); // at once, so that an edit that reports twice is heard once
+    if (!isAccepted)
+        Q_EMIT message(tr("%1 does not accept what was entered.").arg(FieldText::qualifiedName(*m_field)));
+}
+
+void EditManager::record(const FieldSnapshot &before, int series)
+{
+    const FieldSnapshot after(*m_field);
+    if (after.isSameValue(before))
+        before.restore(*m_field); // writing the same value again has cleared the default flag
+    else
+        m_stack->push(new FieldCommand(*m_field, before, after, series));
+}
+
+void EditManager::sfieldSetValue(SbString *previousData)
+{
+    const std::unique_ptr<SbString> dragged(previousData); // its text is rounded; ours is the exact value
+    const OwnEdit own;
+    m_hold.reset();
+    if (!isListening())
+        return;
+    const FieldSnapshot before = dragged && m_before ? *m_before : FieldSnapshot(*m_field);
+    if (dragged && m_slider && m_slider->value() == m_positionBefore) {
+        before.restore(*m_field); // the way there and back has rounded it
+        refresh();
+        return;
+    }
+    edit(before, [this] { m_editor->applyChanges(); });
+}
+
+void EditManager::fieldSetDefaultValue()
+{
+    if (!isListening())
+        return;
+    const FieldSnapshot before(*m_field);
+    if (refuse(before))
+        return;
+    auto fresh = FieldSnapshot::ofDefault(*m_field);
+    if (!fresh) {
+        Q_EMIT message(tr("The default of %1 is not known.").arg(FieldText::qualifiedName(*m_field)));
+        return;
+    }
+    fresh->setIgnored(before.isIgnored());
+    if (*fresh == before)
+        return;
+    fresh->restore(*m_field);
+    m_stack->push(new FieldCommand(*m_field, before, *fresh, FieldCommand::noSeries));
+    refresh();
+}
+
+void EditManager::fieldSetIgnored(bool ignored)
+{
+    if (!isListening() || bool(m_field->isIgnored()) == ignored)
+        return;
+    const FieldSnapshot before(*m_field);
+    m_field->setIgnored(ignored); // Coin notifies, so the picture follows
+    m_stack->push(new FieldCommand(*m_field, before, FieldSnapshot(*m_field), FieldCommand::noSeries));
+    refresh();
+}
+
+void EditManager::mfieldSwapRows(int first, int second)
+{
+    edit([=] { m_editor->swapRows(first, second); });
+}
+
+void EditManager::mfieldSwapColumns(int first, int second)
+{
+    edit([=] { m_editor->swapColumns(first, second); });
+}
+
+void EditManager::mfieldDeleteRows(int topRow, int numValues)
+{
+    edit([=] {
+        if (m_field->isOfType(SoMField::getClassTypeId()))
+            static_cast<SoMField *>(m_field)->deleteValues(topRow, numValues);
+    });
+}
+
+void EditManager::mfieldAddRows(int row, int numRows)
+{
+    edit([=] {
+        if (m_field->isOfType(SoMField::getClassTypeId()))
+            static_cast<SoMField *>(m_field)->insertSpace(row, numRows);
+    });
+}
+
+void EditManager::mfieldSet1Value(int row, int col, QString text, SbString *previousData)
+{
+    const std::unique_ptr<SbString> owned(previousData);
+    edit([=] { m_editor->set1Value(row, col, text); });
+}
+
+void EditManager::mfieldSetValue(int row, const void *data)
+{
+    edit([=] { m_editor->setValue(row, data); });
+}
+
+void EditManager::remember()
+{
+    if (!m_slider || !m_field)
+        return;
+    m_before.emplace(*m_field);
+    m_positionBefore = m_slider->value();
+}
+
+void EditManager::hold()
+{
+    if (!isHeld()) {
+        m_hold.emplace();
+        remember();
+    }
+}
+
+/// Ends a press beside the handle; the end of a drag comes as a command.
+void EditManager::letGo()
+{
+    if (isHeld() && !m_slider->isSliderDown()) {
+        m_hold.reset();
+        sliderStepped();
+    }
+}
+
+/// A step that the editor has written, or shows only: it does not write while the slider's box is off.
+void EditManager::sliderStepped()
+{
+    const bool isTyped = m_edit && m_edit->isModified(); // a typed text moves the slider before it is committed
+    if (isHeld() || isTyped || !isListening() || !m_before || m_slider->value() == m_positionBefore)
+        return;
+    const FieldSnapshot before = *m_before;
+    if (refuse(before))
+        return;
+    m_editor->applyChanges();
+    record(before, m_series);
+    remember();
+}
+
+bool EditManager::eventFilter(QObject *, QEvent *event)
+{
+    switch (event->type()) {
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonDblClick:
+        if (isListening() && refuse(FieldSnapshot(*m_field)))
+            return true;
+        hold(); // before the slider jumps to a click
+        break;
+    case QEvent::MouseButtonRelease:
+        letGo();
+        break;
+    case QEvent::FocusOut:
+        letGo();
+        m_series = FieldCommand::newSeries();
+        break;
+    default:
+        break;
+    }
+    return false;
+}

@@ -1,0 +1,85 @@
+// SPDX-FileCopyrightText: 2026 The HarborAPI authors
+// SPDX-License-Identifier: BSD-3-Clause
+
+#ifndef EDITMANAGER_H
+#define EDITMANAGER_H
+
+#include "FieldSnapshot.h"
+#include "OwnEdit.h"
+
+#include <HbFieldEditorCommandManager.h>
+
+#include <QPointer>
+
+#include <functional>
+
+class HbFieldEditors;
+class QLineEdit;
+class QSlider;
+class QUndoStack;
+
+/**
+ * Turns the edits of one editor into undo steps.
+ *
+ * One step per committed text, click or slider drag; the steps of a slider by key, wheel or a click in its
+ * groove, which the editor writes without a command, make one step together while the slider has the focus.
+ * What changes nothing leaves no step and every bit of the value as it was.
+ */
+class EditManager : public HbFieldEditorCommandManager
+{
+    Q_OBJECT
+
+public:
+    explicit EditManager(QUndoStack *stack, QObject *parent = nullptr);
+
+    /// The editor that was created with this manager; once.
+    void setEditor(HbFieldEditors *editor);
+    /// The field must outlive its stay here. Shows nothing until refresh().
+    void setField(SoField *field);
+    /// Shows the field's value; commands that come of it are not edits.
+    void refresh();
+
+    /// Whether a mouse button holds the slider.
+    bool isHeld() const { return m_hold.has_value(); }
+
+    void mfieldSwapRows(int first, int second) override;
+    void mfieldSwapColumns(int first, int second) override;
+    void mfieldDeleteRows(int topRow, int numValues) override;
+    void mfieldAddRows(int row, int numRows) override;
+    void mfieldSet1Value(int row, int col, QString text, SbString *previousData) override;
+    void mfieldSetValue(int row, const void *data) override;
+    void sfieldSetValue(SbString *previousData) override;
+    void fieldSetDefaultValue() override;
+    void fieldSetIgnored(bool ignored) override;
+
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+Q_SIGNALS:
+    /// Something the user should know, in one sentence.
+    void message(const QString &text);
+
+private:
+    bool isListening() const;
+    bool refuse(const FieldSnapshot &before);
+    void edit(const FieldSnapshot &before, const std::function<void()> &write);
+    void edit(const std::function<void()> &write);
+    void record(const FieldSnapshot &before, int series);
+
+    void remember();
+    void hold();
+    void letGo();
+    void sliderStepped();
+
+    QPointer<QUndoStack> m_stack;
+    HbFieldEditors *m_editor = nullptr;
+    SoField *m_field = nullptr;
+    QPointer<QSlider> m_slider;
+    QPointer<QLineEdit> m_edit;
+    std::optional<FieldSnapshot> m_before; ///< from before the slider's next move
+    int m_positionBefore = 0;
+    int m_series;
+    std::optional<OwnEdit> m_hold; ///< while a mouse button holds the slider, whose moves are written at once
+    bool m_refreshing = false;
+};
+
+#endif

@@ -1,0 +1,61 @@
+// SPDX-FileCopyrightText: 2026 The HarborAPI authors
+// SPDX-License-Identifier: BSD-3-Clause
+
+#ifndef FIELDPANEL_H
+#define FIELDPANEL_H
+
+#include <QWidget>
+
+#include <memory>
+#include <vector>
+
+class FieldObserver;
+class FieldRow;
+class QLabel;
+class QScrollArea;
+class QUndoStack;
+class SoField;
+class SoNode;
+
+/**
+ * Shows one editor per field of a node, in the order in which the node's class declares them.
+ *
+ * Edits become steps of an undo stack. The editors follow the fields whatever changes them, and are kept
+ * when another node of the same class is shown, with the scroll position and the focus.
+ */
+class FieldPanel : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /// The stack is not owned.
+    explicit FieldPanel(QUndoStack *stack, QWidget *parent = nullptr);
+    ~FieldPanel() override;
+
+    /// Shows @p node and keeps it alive while it is shown; null shows nothing. What was being typed for the
+    /// node before is committed to it.
+    void setNode(SoNode *node);
+
+Q_SIGNALS:
+    /// Something the user should know, in one sentence: why an edit was refused.
+    void message(const QString &text);
+
+private:
+    bool reuse(const std::vector<SoField *> &fields);
+    void rebuild(const std::vector<SoField *> &fields);
+    void removeRows();
+    void alignLabels();
+    void showTitle();
+    void showFocus(const QWidget *focused);
+    void followField(const SoField *field);
+    void followAll();
+
+    QUndoStack *m_stack;
+    std::shared_ptr<SoNode> m_node;
+    FieldObserver *m_observer;
+    QLabel *m_title;
+    QScrollArea *m_area;
+    std::vector<FieldRow *> m_rows; ///< children of the area's widget
+};
+
+#endif

@@ -1,0 +1,193 @@
+// SPDX-FileCopyrightText: 2026 The HarborAPI authors
+// SPDX-License-Identifier: BSD-3-Clause
+
+#include "FieldRow.h"
+
+#include "EditManager.h"
+#include "EditorTable.h"
+#include "FieldText.h"
+
+#include <HbFieldEditors.h>
+#include <HbRangeComponent.h>
+
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QSlider>
+
+#include <Inventor/fields/SoField.h>
+#include <Inventor/fields/SoFieldContainer.h>
+
+#include <algorithm>
+
+namespace
+{
+const QString connectedMark = QStringLiteral(" \u2190"); // an arrow to the left: the value comes in
+
+SbName nameOf(const SoField &field)
+{
+    SbName name;
+    field.getContainer()->getFieldName(&field, name);
+    return name;
+}
+} // namespace
+
+FieldRow::FieldRow(SoField &field, QUndoStack *stack, QWidget *parent)
+    : QObject(parent), m_field(&field), m_type(field.getTypeId()), m_name(nameOf(field)),
+      m_kind(EditorTable::kindFor(field)), m_manager(new EditManager(stack, this)),
+      m_editor(m_kind.create(m_name.getString(), EditorTable::rangeFor(m_kind, field), m_manager, parent)),
+      m_label(m_editor->findChild<QLabel *>(QStringLiteral("m_label"))), m_edits(m_editor->findChildren<QLineEdit *>())
+{
+    for (QLineEdit *const edit : std::as_const(m_edits))
+        edit->installEventFilter(this);
+    nameControls();
+    connect(m_manager, &EditManager::message, this, &FieldRow::message);
+    m_manager->setEditor(m_editor);
+    m_manager->setField(m_field);
+    refresh();
+}
+
+void FieldRow::nameControls()
+{
+    const QString name = FieldText::qualifiedName(*m_field);
+    const auto controls = m_editor->findChildren<QWidget *>();
+    for (QWidget *const control : controls) {
+        const QString role = control->accessibleName();
+        if (!role.isEmpty() || control->focusPolicy() != Qt::NoFocus)
+            control->setAccessibleName(role.isEmpty() ? name : QStringLiteral("%1, %2").arg(name, role));
+    }
+    m_editor->setAccessibleName(name);
+    m_editor->setToolTip(QStringLiteral("%1 (%2)").arg(name, QString::fromLatin1(m_type.getName().getString())));
+}
+
+QWidget *FieldRow::widget() const
+{
+    return m_editor;
+}
+
+bool FieldRow::fits(const SoField &field) const
+{
+    return field.getTypeId() == m_type && nameOf(field) == m_name;
+}
+
+void FieldRow::setField(SoField &field)
+{
+    m_field = &field;
+    m_manager->setField(m_field);
+    EditorTable::resetRange(*m_editor, EditorTable::rangeFor(m_kind, field));
+    refresh();
+}
+
+void FieldRow::finish()
+{
+    if (auto *const slider = m_editor->findChild<QSlider *>(); slider && slider->isSliderDown())
+        slider->setSliderDown(false);
+    for (QLineEdit *const edit : std::as_const(m_edits)) {
+        if (edit->isModified() && edit->hasAcceptableInput())
+            Q_EMIT edit->editingFinished();
+    }
+}
+
+void FieldRow::release()
+{
+    m_field = nullptr;
+    m_manager->setField(nullptr);
+}
+
+void FieldRow::refresh()
+{
+    if (!m_field)
+        return;
+    m_manager->refresh();
+    updateMark();
+}
+
+void FieldRow::follow()
+{
+    if (!isBusy())
+        refresh();
+}
+
+bool FieldRow::isBusy() const
+{
+    return m_manager->isHeld()
+        || std::any_of(m_edits.begin(), m_edits.end(), [](const QLineEdit *edit) { return edit->isModified(); });
+}
+
+void FieldRow::updateMark()
+{
+    const QString source = FieldText::source(*m_field);
+    const QString name = QString::fromLatin1(m_name.getString());
+    const QString label = source.isEmpty() ? name : name + connectedMark;
+    if (label == m_label->text() && source == m_source)
+        return;
+    m_source = source;
+    m_label->setText(label);
+    m_label->setToolTip(FieldText::obstacle(*m_field));
+    m_editor->setAccessibleDescription(m_label->toolTip());
+}
+
+void FieldRow::setFocused(bool focused)
+{
+    QFont font = m_label->font();
+    if (font.bold() == focused)
+        return;
+    font.setBold(focused);
+    m_label->setFont(font);
+}
+
+/// Room for the mark and for bold letters, so that neither moves the controls.
+int FieldRow::labelWidth() const
+{
+    QFont font = m_label->font();
+    font.setBold(true);
+    const QString text = QString::fromLatin1(m_name.getString()) + connectedMark;
+    return QFontMetrics(font).horizontalAdvance(text) + 2 * (m_label->margin() + m_label->frameWidth());
+}
+
+void FieldRow::setLabelWidth(int width)
+{
+    m_label->setFixedWidth(width);
+}
+
+bool FieldRow::eventFilter(QObject *watched, QEvent *event)
+{
+    const auto &edit = static_cast<const QLineEdit &>(*watched);
+    switch (event->type()) {
+    case QEvent::ShortcutOverride:
+    case QEvent::KeyPress:
+        return handleKey(edit, static_cast<QKeyEvent &>(*event));
+    case QEvent::FocusOut: {
+        const Qt::FocusReason reason = static_cast<QFocusEvent *>(event)->reason();
+        if (reason != Qt::PopupFocusReason && reason != Qt::ActiveWindowFocusReason)
+            QMetaObject::invokeMethod(this, &FieldRow::afterLeaving, Qt::QueuedConnection);
+        return false;
+    }
+    default:
+        return false;
+    }
+}
+
+bool FieldRow::handleKey(const QLineEdit &edit, QKeyEvent &event)
+{
+    const bool isAsked = event.type() == QEvent::ShortcutOverride;
+    if (isAsked && (event.matches(QKeySequence::Undo) || event.matches(QKeySequence::Redo))) {
+        event.ignore(); // not the edit's own undo: the application's
+        return true;
+    }
+    if (event.key() != Qt::Key_Escape || !edit.isModified())
+        return false;
+    event.accept();
+    if (!isAsked)
+        refresh();
+    return true;
+}
+
+/// Nothing stays in an edit that was refused, or that the field has left behind while it was typed.
+void FieldRow::afterLeaving()
+{
+    const bool isEntered
+        = std::any_of(m_edits.begin(), m_edits.end(), [](const QLineEdit *e) { return e->hasFocus(); });
+    if (!isEntered && !m_manager->isHeld())
+        refresh();
+}

@@ -1,0 +1,82 @@
+// SPDX-FileCopyrightText: 2026 The HarborAPI authors
+// SPDX-License-Identifier: BSD-3-Clause
+
+#ifndef FIELDROW_H
+#define FIELDROW_H
+
+#include <QObject>
+#include <QPointer>
+
+#include <Inventor/SbName.h>
+#include <Inventor/SoType.h>
+
+class EditManager;
+class HbFieldEditors;
+class QKeyEvent;
+class QLabel;
+class QLineEdit;
+class QUndoStack;
+class QWidget;
+class SoField;
+struct EditorKind;
+
+/**
+ * One line of the panel: the editor of a field with its manager, and what the panel adds to it.
+ *
+ * It marks a field whose value comes from elsewhere, takes back an unfinished text on Escape or when the
+ * edit is left, and leaves undo keys to the application.
+ */
+class FieldRow : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// @p parent is the widget that the editor becomes a child of.
+    FieldRow(SoField &field, QUndoStack *stack, QWidget *parent);
+
+    QWidget *widget() const;
+    const SoField *field() const { return m_field; }
+    /// Whether setField() may be given @p field: it has the same name and type.
+    bool fits(const SoField &field) const;
+
+    /// Goes over to the field of another node of the same class.
+    void setField(SoField &field);
+    /// Commits what is being typed or dragged.
+    void finish();
+    /// Lets go of the field.
+    void release();
+    /// Shows the field's value and drops what is being typed.
+    void refresh();
+    /// Like refresh(), but leaves an editor alone in which the user is typing or dragging.
+    void follow();
+
+    /// Shows in the name whether the keyboard is here.
+    void setFocused(bool focused);
+
+    int labelWidth() const;
+    void setLabelWidth(int width);
+
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+Q_SIGNALS:
+    void message(const QString &text);
+
+private:
+    void nameControls();
+    void updateMark();
+    bool isBusy() const;
+    bool handleKey(const QLineEdit &edit, QKeyEvent &event);
+    void afterLeaving();
+
+    SoField *m_field;
+    SoType m_type;
+    SbName m_name;
+    const EditorKind &m_kind;
+    EditManager *m_manager;
+    HbFieldEditors *m_editor;
+    QLabel *m_label;
+    QList<QLineEdit *> m_edits;
+    QString m_source;
+};
+
+#endif

@@ -1,0 +1,81 @@
+// SPDX-FileCopyrightText: 2026 The HarborAPI authors
+// SPDX-License-Identifier: BSD-3-Clause
+
+#ifndef MAINWINDOW_H
+#define MAINWINDOW_H
+
+#include "CoinMessages.h"
+
+#include <HbGUIManagement.h>
+
+class FieldPanel;
+class MessageBar;
+class SceneDocument;
+class SceneTree;
+class SceneView;
+class QTreeWidgetItem;
+class QUndoStack;
+
+/// The tool's window: the scene's tree, its picture, the fields of the selected node, and messages.
+class MainWindow : public HbGUIManagement
+{
+    Q_OBJECT
+
+public:
+    explicit MainWindow(QWidget *parent = nullptr);
+    ~MainWindow() override;
+
+    /// Opens a scene in place of the one that is open. What went wrong stands in the message bar.
+    bool open(const QString &fileName);
+    /// Selects the node at a path as in "Lighthouse/0/Lamp".
+    bool select(const QString &path, QString *problem);
+    /// Takes size and places from the last time and keeps them for the next.
+    void rememberGeometry();
+
+    QWidget *getSceneWidget() override;
+    QWidget *getEditorsWidget() override;
+    QMenu *getPluginsMenu() override;
+
+    SceneTree *tree() const { return m_tree; }
+    FieldPanel *panel() const { return m_panel; }
+    /// Null where this machine draws no OpenGL.
+    SceneView *view() const { return m_view; }
+    SceneDocument *document() const { return m_document; }
+    QStringList messages() const;
+
+protected:
+    void closeEvent(QCloseEvent *event) override;
+    void dragEnterEvent(QDragEnterEvent *event) override;
+    void dropEvent(QDropEvent *event) override;
+
+private:
+    void createCentre();
+    void createDocks();
+    void createFileMenu();
+    void createEditMenu();
+    void createViewMenu();
+    void createHelpMenu();
+
+    void chooseAndOpen();
+    bool save();
+    bool saveAs();
+    bool saveTo(const QString &fileName);
+    bool mayDiscard();
+    void finishEditing();
+    void showDocument();
+    void showTitle();
+    void showContextMenu(QTreeWidgetItem *item);
+    void about();
+
+    SceneDocument *m_document;
+    SceneTree *m_tree;
+    FieldPanel *m_panel;
+    SceneView *m_view = nullptr;
+    MessageBar *m_messages;
+    QMenu *m_viewMenu = nullptr;
+    QMenu *m_toolsMenu = nullptr;
+    CoinMessages m_coin; ///< what Coin says between reading and writing, say while drawing
+    bool m_remembersGeometry = false;
+};
+
+#endif

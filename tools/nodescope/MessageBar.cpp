@@ -1,0 +1,78 @@
+// SPDX-FileCopyrightText: 2026 The HarborAPI authors
+// SPDX-License-Identifier: BSD-3-Clause
+
+#include "MessageBar.h"
+
+#include <QAccessible>
+#include <QGridLayout>
+#include <QLabel>
+#include <QListWidget>
+#include <QToolButton>
+
+namespace {
+constexpr int mostMessages = 500;
+constexpr int linesShown = 6;
+} // namespace
+
+MessageBar::MessageBar(QWidget *parent)
+    : QWidget(parent), m_last(new QLabel(this)), m_more(new QToolButton(this)), m_list(new QListWidget(this))
+{
+    m_last->setTextFormat(Qt::PlainText);
+    m_last->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    m_last->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    m_more->setCheckable(true);
+    m_more->setAutoRaise(true);
+    m_more->hide();
+    m_list->setAccessibleName(tr("Messages"));
+    m_list->setWordWrap(true);
+    m_list->setFixedHeight(linesShown * fontMetrics().lineSpacing());
+    m_list->hide();
+    connect(m_more, &QToolButton::toggled, m_list, &QListWidget::setVisible);
+
+    auto *layout = new QGridLayout(this);
+    layout->setContentsMargins(4, 0, 0, 0);
+    layout->addWidget(m_last, 0, 0);
+    layout->addWidget(m_more, 0, 1);
+    layout->addWidget(m_list, 1, 0, 1, 2);
+    layout->setColumnStretch(0, 1);
+}
+
+void MessageBar::add(const QString &text)
+{
+    const int count = m_list->count();
+    if (count > 0 && m_list->item(count - 1)->text() == text)
+        return; // what is wrong in a picture is said again with every frame
+    if (count == mostMessages)
+        delete m_list->takeItem(0);
+    m_list->addItem(text);
+    m_list->scrollToBottom();
+    m_more->setText(tr("%n messages", nullptr, m_list->count()));
+    m_more->show();
+    showLast();
+    QAccessibleEvent event(m_last, QAccessible::Alert);
+    QAccessible::updateAccessibility(&event);
+}
+
+QStringList MessageBar::messages() const
+{
+    QStringList texts;
+    for (int i = 0; i < m_list->count(); ++i)
+        texts.append(m_list->item(i)->text());
+    return texts;
+}
+
+void MessageBar::resizeEvent(QResizeEvent *event)
+{
+    QWidget::resizeEvent(event);
+    showLast();
+}
+
+void MessageBar::showLast()
+{
+    if (m_list->count() == 0)
+        return;
+    const QString text = m_list->item(m_list->count() - 1)->text();
+    m_last->setText(fontMetrics().elidedText(text, Qt::ElideMiddle, width() - m_more->sizeHint().width() - 16));
+    m_last->setToolTip(text);
+    m_last->setAccessibleName(text);
+}

@@ -1,0 +1,35 @@
+// SPDX-FileCopyrightText: 2026 The HarborAPI authors
+// SPDX-License-Identifier: BSD-3-Clause
+
+#ifndef MESSAGEBAR_H
+#define MESSAGEBAR_H
+
+#include <QWidget>
+
+class QLabel;
+class QListWidget;
+class QToolButton;
+
+/// The last message in one line, and on demand all of them.
+class MessageBar : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit MessageBar(QWidget *parent = nullptr);
+
+    void add(const QString &text);
+    QStringList messages() const;
+
+protected:
+    void resizeEvent(QResizeEvent *event) override;
+
+private:
+    void showLast();
+
+    QLabel *m_last;
+    QToolButton *m_more;
+    QListWidget *m_list;
+};
+
+#endif

@@ -1,0 +1,65 @@
+// SPDX-FileCopyrightText: 2026 The HarborAPI authors
+// SPDX-License-Identifier: BSD-3-Clause
+
+#include "SceneDocument.h"
+
+#include "CoinEventLoop.h"
+#include "CoinRef.h"
+
+#include <QFileInfo>
+
+#include <utility>
+
+SceneDocument::SceneDocument(QObject *parent) : QObject(parent)
+{
+    m_file.root = coinRef<SoSeparator>(new SceneRoot);
+    m_watch.watch(root());
+    connect(&m_undoStack, &QUndoStack::cleanChanged, this, [this] { Q_EMIT modifiedChanged(isModified()); });
+    connect(&m_undoStack, &QUndoStack::indexChanged, this, [this] { m_undoMoved = true; });
+    connect(&m_watch, &SceneWatch::changedElsewhere, this, [this] {
+        if (!m_undoMoved)
+            setChangedElsewhere(true);
+    });
+    connect(&m_watch, &SceneWatch::changed, this, [this] {
+        m_undoMoved = false;
+        CoinEventLoop::updateClock();
+    });
+}
+
+bool SceneDocument::open(const QString &fileName, QStringList *messages)
+{
+    SceneFile file = readScene(fileName);
+    *messages = file.messages;
+    if (!file.root)
+        return false;
+    m_undoStack.clear();
+    std::swap(m_file, file); // the old scene lives until everyone has turned to the new one
+    m_fileName = QFileInfo(fileName).absoluteFilePath();
+    m_watch.watch(root());
+    CoinEventLoop::updateClock();
+    m_undoMoved = false;
+    setChangedElsewhere(false);
+    Q_EMIT opened();
+    return true;
+}
+
+bool SceneDocument::save(const QString &fileName, QStringList *messages)
+{
+    if (!writeScene(root(), m_file.format, fileName, messages))
+        return false;
+    m_fileName = QFileInfo(fileName).absoluteFilePath();
+    m_undoStack.setClean();
+    setChangedElsewhere(false);
+    return true;
+}
+
+bool SceneDocument::isModified() const
+{
+    return m_changedElsewhere || !m_undoStack.isClean();
+}
+
+void SceneDocument::setChangedElsewhere(bool changed)
+{
+    m_changedElsewhere = changed;
+    Q_EMIT modifiedChanged(isModified());
+}

@@ -1,0 +1,38 @@
+// SPDX-FileCopyrightText: 2026 The HarborAPI authors
+// SPDX-License-Identifier: BSD-3-Clause
+
+#ifndef SCENEITEM_H
+#define SCENEITEM_H
+
+#include <QTreeWidgetItem>
+
+#include <memory>
+
+class SoNode;
+
+/// One place of a node in the scene tree. Texts are made when they are shown.
+class SceneItem : public QTreeWidgetItem
+{
+public:
+    enum Column { Type, Name, ColumnCount };
+
+    explicit SceneItem(SoNode *node);
+
+    SoNode *node() const { return m_node.get(); }
+    /// Whether the children have been made; until then the item only shows whether there are any.
+    bool isFilled() const { return m_filled; }
+    void setFilled() { m_filled = true; }
+    void updateIndicator();
+
+    QVariant data(int column, int role) const override;
+
+private:
+    QString typeName() const;
+    QString explanation() const;
+    bool isShared() const;
+
+    std::shared_ptr<SoNode> m_node;
+    bool m_filled = false;
+};
+
+#endif

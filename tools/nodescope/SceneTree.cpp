@@ -1,0 +1,164 @@
+// SPDX-FileCopyrightText: 2026 The HarborAPI authors
+// SPDX-License-Identifier: BSD-3-Clause
+
+#include "SceneTree.h"
+
+#include "CoinRef.h"
+#include "SceneItem.h"
+
+#include <Inventor/nodes/SoNode.h>
+
+#include <QContextMenuEvent>
+#include <QHeaderView>
+
+#include <algorithm>
+
+SceneTree::SceneTree(QWidget *parent) : HbGUITreeviewManagement(parent)
+{
+    setColumnCount(SceneItem::ColumnCount);
+    setHeaderLabels({tr("Type"), tr("Name")});
+    header()->resizeSection(SceneItem::Type, 180);
+    setUniformRowHeights(true); // the height of 100,000 rows is asked for once
+    setAccessibleName(tr("Scene"));
+    connect(this, &QTreeWidget::itemExpanded, this, &SceneTree::fill);
+    connect(this, &QTreeWidget::currentItemChanged, this,
+            [this](QTreeWidgetItem *item) { Q_EMIT nodeSelected(nodeOf(item)); });
+    connect(&m_watch, &SceneWatch::structureChanged, this, &SceneTree::follow);
+}
+
+SceneTree::~SceneTree() = default;
+
+void SceneTree::setScene(SoNode *root)
+{
+    setCurrentItem(nullptr);
+    clear();
+    m_places.clear();
+    m_root = coinRef(root);
+    m_watch.watch(root);
+    if (root)
+        matchChildren(invisibleRootItem(), childrenOf(root));
+    if (topLevelItemCount() == 1)
+        topLevelItem(0)->setExpanded(true);
+    Q_EMIT newSceneGraph();
+}
+
+void SceneTree::select(const ScenePath &path)
+{
+    QTreeWidgetItem *item = path.isEmpty() ? nullptr : invisibleRootItem();
+    for (const int index : path) {
+        fill(item);
+        item->setExpanded(true);
+        item = item->child(index);
+    }
+    setCurrentItem(item);
+    if (item)
+        scrollToItem(item);
+}
+
+SoNode *SceneTree::selectedNode() const
+{
+    return nodeOf(currentItem());
+}
+
+SoNode *SceneTree::nodeOf(const QTreeWidgetItem *item)
+{
+    const auto *sceneItem = dynamic_cast<const SceneItem *>(item);
+    return sceneItem ? sceneItem->node() : nullptr;
+}
+
+ScenePath SceneTree::pathOf(QTreeWidgetItem *item) const
+{
+    ScenePath path;
+    for (; item; item = item->parent())
+        path.prepend(item->parent() ? item->parent()->indexOfChild(item) : indexOfTopLevelItem(item));
+    return path;
+}
+
+int SceneTree::placesOf(const SoNode *node) const
+{
+    if (m_places.empty() && m_root) {
+        std::vector<const SoNode *> open {m_root.get()};
+        while (!open.empty()) {
+            const SoNode *parent = open.back();
+            open.pop_back();
+            for (const SoNode *child : childrenOf(parent))
+                if (++m_places[child] == 1)
+                    open.push_back(child);
+        }
+    }
+    const auto found = m_places.find(node);
+    return found == m_places.end() ? 0 : found->second;
+}
+
+void SceneTree::contextMenuEvent(QContextMenuEvent *event)
+{
+    const bool byMouse = event->reason() == QContextMenuEvent::Mouse;
+    if (QTreeWidgetItem *item = byMouse ? itemAt(event->pos()) : currentItem())
+        Q_EMIT rightClicked(item);
+}
+
+void SceneTree::fill(QTreeWidgetItem *item)
+{
+    auto *sceneItem = dynamic_cast<SceneItem *>(item);
+    if (!sceneItem || sceneItem->isFilled())
+        return;
+    sceneItem->setFilled();
+    matchChildren(item, childrenOf(sceneItem->node()));
+}
+
+void SceneTree::follow()
+{
+    m_places.clear();
+    refreshBranch(invisibleRootItem(), m_root.get());
+    viewport()->update();
+}
+
+void SceneTree::refreshBranch(QTreeWidgetItem *item, const SoNode *node)
+{
+    auto *sceneItem = dynamic_cast<SceneItem *>(item);
+    if (sceneItem)
+        sceneItem->updateIndicator();
+    if (sceneItem && !sceneItem->isFilled())
+        return;
+    matchChildren(item, childrenOf(node));
+    for (int i = 0; i < item->childCount(); ++i)
+        refreshBranch(item->child(i), nodeOf(item->child(i)));
+}
+
+// What stands before and behind the changed stretch keeps its rows, and so stays open and selected.
+void SceneTree::matchChildren(QTreeWidgetItem *item, const std::vector<SoNode *> &nodes)
+{
+    const int oldCount = item->childCount();
+    const int newCount = static_cast<int>(nodes.size());
+    const auto same = [&](int oldRow, int newRow) {
+        return nodeOf(item->child(oldRow)) == nodes[static_cast<std::size_t>(newRow)];
+    };
+    int before = 0;
+    while (before < std::min(oldCount, newCount) && same(before, before))
+        ++before;
+    int behind = 0;
+    while (behind < std::min(oldCount, newCount) - before && same(oldCount - 1 - behind, newCount - 1 - behind))
+        ++behind;
+
+    removeChildren(item, before, oldCount - before - behind);
+    QList<QTreeWidgetItem *> fresh;
+    for (int row = before; row < newCount - behind; ++row)
+        fresh.append(new SceneItem(nodes[static_cast<std::size_t>(row)])); // owned by the tree from here on
+    item->insertChildren(before, fresh);
+}
+
+void SceneTree::removeChildren(QTreeWidgetItem *item, int first, int count)
+{
+    for (QTreeWidgetItem *selected = currentItem(); selected; selected = selected->parent()) {
+        QTreeWidgetItem *parent = selected->parent() ? selected->parent() : invisibleRootItem();
+        const int row = parent->indexOfChild(selected);
+        if (parent == item && row >= first && row < first + count)
+            setCurrentItem(selected->parent());
+    }
+    if (count == item->childCount()) {
+        qDeleteAll(item->takeChildren());
+        return;
+    }
+    while (count-- > 0)
+        delete item->takeChild(first);
+}

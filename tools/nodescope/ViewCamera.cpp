@@ -1,0 +1,141 @@
+// SPDX-FileCopyrightText: 2026 The HarborAPI authors
+// SPDX-License-Identifier: BSD-3-Clause
+
+#include "ViewCamera.h"
+
+#include "CoinRef.h"
+
+#include <Inventor/SbMatrix.h>
+#include <Inventor/SbRotation.h>
+#include <Inventor/SbViewportRegion.h>
+#include <Inventor/actions/SoGetBoundingBoxAction.h>
+#include <Inventor/actions/SoGetMatrixAction.h>
+#include <Inventor/actions/SoSearchAction.h>
+#include <Inventor/nodes/SoOrthographicCamera.h>
+#include <Inventor/nodes/SoPerspectiveCamera.h>
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+constexpr float pi = 3.14159265F;
+const SbVec3f cameraForward(0, 0, -1);
+const SbVec3f cameraUp(0, 1, 0);
+const SbVec3f cameraRight(1, 0, 0);
+
+SbVec3f turned(const SoCamera &camera, const SbVec3f &vector)
+{
+    SbVec3f result;
+    camera.orientation.getValue().multVec(vector, result);
+    return result;
+}
+
+/// The path to the scene's first camera that is switched on; null where there is none.
+SoPath *findCamera(SoSearchAction &search, SoNode *root)
+{
+    search.setType(SoCamera::getClassTypeId());
+    search.setInterest(SoSearchAction::FIRST);
+    search.apply(root);
+    return search.getPath();
+}
+
+std::shared_ptr<SoCamera> copyInWorldSpace(const SoCamera &camera, SoPath *path, const SbViewportRegion &viewport)
+{
+    auto copy = coinRef(static_cast<SoCamera *>(camera.getTypeId().createInstance()));
+    copy->copyFieldValues(&camera);
+    SoGetMatrixAction action(viewport);
+    action.apply(path);
+    SbVec3f position;
+    action.getMatrix().multVecMatrix(camera.position.getValue(), position);
+    SbVec3f translation;
+    SbVec3f scale;
+    SbRotation rotation;
+    SbRotation scaleOrientation;
+    action.getMatrix().getTransform(translation, rotation, scale, scaleOrientation);
+    copy->position = position;
+    copy->orientation = camera.orientation.getValue() * rotation;
+    return copy;
+}
+
+SbVec3f nearestAxis(const SbVec3f &vector)
+{
+    int largest = 0;
+    for (int i = 1; i < 3; ++i)
+        if (std::abs(vector[i]) > std::abs(vector[largest]))
+            largest = i;
+    SbVec3f axis(0, 0, 0);
+    axis[largest] = vector[largest] < 0 ? -1.0F : 1.0F;
+    return axis;
+}
+
+} // namespace
+
+ViewCamera::ViewCamera() : m_camera(coinRef<SoCamera>(new SoPerspectiveCamera)) { }
+
+void ViewCamera::goHome(SoNode *root, const SbViewportRegion &viewport)
+{
+    SoSearchAction search;
+    SoPath *path = findCamera(search, root);
+    if (path) {
+        m_original = coinRef(static_cast<SoCamera *>(path->getTail()));
+        m_camera = copyInWorldSpace(*m_original, path, viewport);
+    } else {
+        m_original.reset();
+        m_camera = coinRef<SoCamera>(new SoPerspectiveCamera);
+        m_camera->orientation.setValue(SbRotation(cameraRight, -pi / 9) * SbRotation(cameraUp, pi / 6));
+        viewAll(root, viewport);
+    }
+    m_up = nearestAxis(turned(*m_camera, cameraUp));
+}
+
+void ViewCamera::viewAll(SoNode *root, const SbViewportRegion &viewport)
+{
+    SoGetBoundingBoxAction action(viewport);
+    action.apply(root);
+    if (!action.getBoundingBox().isEmpty())
+        m_camera->viewAll(root, viewport);
+}
+
+SbVec3f ViewCamera::direction() const
+{
+    return turned(*m_camera, cameraForward);
+}
+
+SbVec3f ViewCamera::focus() const
+{
+    return m_camera->position.getValue() + direction() * m_camera->focalDistance.getValue();
+}
+
+void ViewCamera::orbit(float right, float up)
+{
+    const SbVec3f centre = focus();
+    const float limit = pi / 2 - 0.01F; // from straight above the picture would turn over
+    const float height = std::asin(std::clamp(-direction().dot(m_up), -1.0F, 1.0F));
+    const float climb = std::clamp(height + up, -limit, limit) - height;
+    m_camera->orientation = SbRotation(cameraRight, -climb) * m_camera->orientation.getValue() * SbRotation(m_up, right);
+    m_camera->position = centre - direction() * m_camera->focalDistance.getValue();
+}
+
+void ViewCamera::pan(float right, float up)
+{
+    float height = 2 * m_camera->focalDistance.getValue();
+    if (m_camera->isOfType(SoPerspectiveCamera::getClassTypeId()))
+        height *= std::tan(static_cast<SoPerspectiveCamera *>(m_camera.get())->heightAngle.getValue() / 2);
+    else if (m_camera->isOfType(SoOrthographicCamera::getClassTypeId()))
+        height = static_cast<SoOrthographicCamera *>(m_camera.get())->height.getValue();
+    const SbVec3f way = turned(*m_camera, cameraRight) * right + turned(*m_camera, cameraUp) * up;
+    m_camera->position = m_camera->position.getValue() - way * height;
+}
+
+void ViewCamera::zoom(float factor)
+{
+    if (m_camera->isOfType(SoOrthographicCamera::getClassTypeId())) {
+        auto &height = static_cast<SoOrthographicCamera *>(m_camera.get())->height;
+        height = height.getValue() / factor;
+        return;
+    }
+    const SbVec3f centre = focus();
+    m_camera->focalDistance = m_camera->focalDistance.getValue() / factor;
+    m_camera->position = centre - direction() * m_camera->focalDistance.getValue();
+}

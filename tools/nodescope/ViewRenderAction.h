@@ -1,0 +1,30 @@
+// SPDX-FileCopyrightText: 2026 The HarborAPI authors
+// SPDX-License-Identifier: BSD-3-Clause
+
+#ifndef VIEWRENDERACTION_H
+#define VIEWRENDERACTION_H
+
+#include <Inventor/actions/SoGLRenderAction.h>
+
+class SoCamera;
+
+/// Draws a scene through one camera and passes over the cameras that stand in the scene itself.
+class ViewRenderAction : public SoGLRenderAction
+{
+    SO_ACTION_HEADER(ViewRenderAction);
+
+public:
+    static void initClass();
+
+    explicit ViewRenderAction(const SbViewportRegion &viewport);
+    ~ViewRenderAction() override;
+
+    void setCamera(const SoCamera *camera) { m_camera = camera; }
+
+private:
+    static void render(SoAction *action, SoNode *camera);
+
+    const SoCamera *m_camera = nullptr; ///< only compared
+};
+
+#endif
