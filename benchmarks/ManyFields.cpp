@@ -30,8 +30,7 @@ template <class Field> void ManyFields::add(std::array<Field, 5> &fields, const 
     for (std::size_t i = 0; i < fields.size(); ++i) {
         fields[i].setValue(0);
         fields[i].setContainer(this);
-        if (SO_NODE_IS_FIRST_INSTANCE())
-            classfielddata->addField(this, (name + std::to_string(i)).c_str(), &fields[i]);
+        fieldData->addField(this, (name + std::to_string(i)).c_str(), &fields[i]);
     }
 }
 

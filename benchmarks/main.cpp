@@ -10,6 +10,7 @@
 
 #include <Inventor/SoDB.h>
 
+#include <cstdio>
 #include <vector>
 
 namespace
@@ -18,10 +19,17 @@ namespace
 std::vector<char *> withDefaults(int argc, char **argv)
 {
     static char repetitions[] = "--benchmark_repetitions=9";
-    static char minimumTime[] = "--benchmark_min_time=0.1";
+    static char minimumTime[] = "--benchmark_min_time=0.2";
     std::vector<char *> arguments(argv, argv + argc);
     arguments.insert(arguments.begin() + 1, {repetitions, minimumTime});
     return arguments;
+}
+
+/// The offscreen platform complains about every window that is shown.
+void printMessage(QtMsgType, const QMessageLogContext &, const QString &text)
+{
+    if (!text.contains(QLatin1String("propagateSizeHints")))
+        std::fprintf(stderr, "%s\n", qPrintable(text));
 }
 } // namespace
 
@@ -29,6 +37,7 @@ int main(int argc, char **argv)
 {
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
+    qInstallMessageHandler(printMessage);
     const QApplication application(argc, argv);
     SoDB::init();
 

@@ -46,7 +46,7 @@ void MessageBar::add(const QString &text)
         delete m_list->takeItem(0);
     m_list->addItem(text);
     m_list->scrollToBottom();
-    m_more->setText(tr("%n messages", nullptr, m_list->count()));
+    m_more->setText(m_list->count() == 1 ? tr("1 message") : tr("%1 messages").arg(m_list->count()));
     m_more->show();
     showLast();
     QAccessibleEvent event(m_last, QAccessible::Alert);

@@ -58,9 +58,9 @@ std::optional<Options> Options::parse(const QStringList &arguments, int *exitCod
 
     QCommandLineParser parser;
     parser.setApplicationDescription(description());
-    const QCommandLineOption help = parser.addHelpOption();
-    const QCommandLineOption version = parser.addVersionOption();
-    parser.addOptions({screenshot, select, size, demo, libraries});
+    const QCommandLineOption help({QStringLiteral("h"), QStringLiteral("help")}, tr("Shows this help."));
+    const QCommandLineOption version({QStringLiteral("v"), QStringLiteral("version")}, tr("Shows the version."));
+    parser.addOptions({help, version, screenshot, select, size, demo, libraries});
     parser.addPositionalArgument(QStringLiteral("scene"), tr("The scene to open."), QStringLiteral("[scene]"));
 
     const bool parsed = parser.parse(arguments);
@@ -91,7 +91,7 @@ std::optional<Options> Options::parse(const QStringList &arguments, int *exitCod
         problem = tr("A size is written like 1200x800.");
     if (problem.isEmpty())
         return options;
-    print(stderr, problem);
+    print(stderr, QStringLiteral("nodescope: ") + problem);
     *exitCode = BadUsage;
     return {};
 }
@@ -99,7 +99,7 @@ std::optional<Options> Options::parse(const QStringList &arguments, int *exitCod
 bool Options::asksForText(int argc, char **argv)
 {
     return std::any_of(argv + 1, argv + argc, [](const char *argument) {
-        constexpr const char *names[] = {"-h", "--help", "--help-all", "-v", "--version"};
+        constexpr const char *names[] = {"-h", "--help", "-v", "--version"};
         return std::any_of(std::begin(names), std::end(names),
                            [&](const char *name) { return std::strcmp(argument, name) == 0; });
     });

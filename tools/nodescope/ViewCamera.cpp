@@ -17,7 +17,8 @@
 #include <algorithm>
 #include <cmath>
 
-namespace {
+namespace
+{
 
 constexpr float pi = 3.14159265F;
 const SbVec3f cameraForward(0, 0, -1);
@@ -93,8 +94,34 @@ void ViewCamera::viewAll(SoNode *root, const SbViewportRegion &viewport)
 {
     SoGetBoundingBoxAction action(viewport);
     action.apply(root);
-    if (!action.getBoundingBox().isEmpty())
-        m_camera->viewAll(root, viewport);
+    const SbBox3f box = action.getBoundingBox();
+    if (box.isEmpty())
+        return;
+    m_camera->viewAll(root, viewport); // around a sphere, which leaves a lot of room around flat scenes
+    if (m_camera->isOfType(SoPerspectiveCamera::getClassTypeId()))
+        fit(box, viewport.getViewportAspectRatio());
+}
+
+/// Goes as near as the corners of the box allow.
+void ViewCamera::fit(const SbBox3f &box, float aspect)
+{
+    constexpr float margin = 1.05F;
+    const float upwards = std::tan(static_cast<SoPerspectiveCamera *>(m_camera.get())->heightAngle.getValue() / 2);
+    const float sideways = upwards * aspect;
+    const SbVec3f centre = box.getCenter();
+    float distance = 0;
+    for (int corner = 0; corner < 8; ++corner) {
+        const SbVec3f &low = box.getMin();
+        const SbVec3f &high = box.getMax();
+        const SbVec3f place(corner & 1 ? high[0] : low[0], corner & 2 ? high[1] : low[1],
+                            corner & 4 ? high[2] : low[2]);
+        SbVec3f seen; // from the centre, in the camera's axes
+        m_camera->orientation.getValue().inverse().multVec(place - centre, seen);
+        const float room = std::max(std::abs(seen[0]) / sideways, std::abs(seen[1]) / upwards);
+        distance = std::max(distance, seen[2] + room * margin);
+    }
+    m_camera->focalDistance = distance;
+    m_camera->position = centre - direction() * distance;
 }
 
 SbVec3f ViewCamera::direction() const
@@ -113,7 +140,8 @@ void ViewCamera::orbit(float right, float up)
     const float limit = pi / 2 - 0.01F; // from straight above the picture would turn over
     const float height = std::asin(std::clamp(-direction().dot(m_up), -1.0F, 1.0F));
     const float climb = std::clamp(height + up, -limit, limit) - height;
-    m_camera->orientation = SbRotation(cameraRight, -climb) * m_camera->orientation.getValue() * SbRotation(m_up, right);
+    m_camera->orientation
+        = SbRotation(cameraRight, -climb) * m_camera->orientation.getValue() * SbRotation(m_up, right);
     m_camera->position = centre - direction() * m_camera->focalDistance.getValue();
 }
 

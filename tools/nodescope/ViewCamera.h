@@ -8,6 +8,7 @@
 
 #include <memory>
 
+class SbBox3f;
 class SbViewportRegion;
 class SoCamera;
 class SoNode;
@@ -38,6 +39,7 @@ public:
     void zoom(float factor);
 
 private:
+    void fit(const SbBox3f &box, float aspect);
     SbVec3f focus() const;
     SbVec3f direction() const;
 

@@ -87,10 +87,13 @@ int main(int argc, char **argv)
     QCoreApplication::setApplicationName(QStringLiteral("nodescope"));
     QCoreApplication::setOrganizationName(QStringLiteral("nodescope"));
     QCoreApplication::setApplicationVersion(QStringLiteral(NODESCOPE_VERSION));
-    const std::unique_ptr<QCoreApplication> application(
-        Options::asksForText(argc, argv) ? new QCoreApplication(argc, argv) : new QApplication(argc, argv));
-
     int exitCode = Success;
+    if (Options::asksForText(argc, argv)) {
+        const QCoreApplication application(argc, argv); // needs no display
+        if (!Options::parse(QCoreApplication::arguments(), &exitCode))
+            return exitCode;
+    }
+    const QApplication application(argc, argv);
     const std::optional<Options> options = Options::parse(QCoreApplication::arguments(), &exitCode);
     if (!options)
         return exitCode;
