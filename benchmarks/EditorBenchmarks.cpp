@@ -21,6 +21,7 @@ namespace
 {
 constexpr double aim = 1.15;
 
+using PlainControls::Finish;
 using Build = std::function<QWidget *(QWidget *parent)>;
 
 double secondsToBuild(const Build &build)
@@ -30,13 +31,17 @@ double secondsToBuild(const Build &build)
 }
 
 void compareBuilding(const char *kind, const std::function<QWidget *(QuietManager *, QWidget *)> &editor,
-                     const Build &plain)
+                     const std::function<QWidget *(Finish, QWidget *)> &plain)
 {
-    compare({std::string("building one ") + kind, "the same controls in plain Qt", aim}, [=] {
-        const auto manager = std::make_shared<QuietManager>();
-        return Sides{[=] { return secondsToBuild([&](QWidget *parent) { return editor(manager.get(), parent); }); },
-                     [=] { return secondsToBuild(plain); }};
-    });
+    const auto add = [&](const char *against, Finish finish) {
+        compare({std::string("building one ") + kind, against, aim}, [=] {
+            const auto manager = std::make_shared<QuietManager>();
+            return Sides{[=] { return secondsToBuild([&](QWidget *parent) { return editor(manager.get(), parent); }); },
+                         [=] { return secondsToBuild([&](QWidget *parent) { return plain(finish, parent); }); }};
+        });
+    };
+    add("plain Qt, bare", Finish::Bare);
+    add("plain Qt with names and frames", Finish::Complete);
 }
 
 template <class Editor> void compareNumber(const char *kind, const std::function<QValidator *()> &validator)
@@ -44,9 +49,13 @@ template <class Editor> void compareNumber(const char *kind, const std::function
     compareBuilding(
         kind,
         [](QuietManager *manager, QWidget *parent) {
-            return new Editor("field", HbRangeComponent(0, 100, false), manager, parent, nullptr, {});
+            HbRangeComponent range(0, 100, false);
+            range.setfRange(0, 100);
+            return new Editor("field", range, manager, parent, nullptr, {});
         },
-        [=](QWidget *parent) { return PlainControls::numberRow(QStringLiteral("field"), validator(), parent); });
+        [=](Finish finish, QWidget *parent) {
+            return PlainControls::numberRow(QStringLiteral("field"), validator(), finish, parent);
+        });
 }
 } // namespace
 
@@ -65,5 +74,5 @@ void addEditorBenchmarks()
         [](QuietManager *manager, QWidget *parent) {
             return new HbSFBoolWidget("field", manager, parent, nullptr, {});
         },
-        [](QWidget *parent) { return PlainControls::boolRow(QStringLiteral("field"), parent); });
+        [](Finish finish, QWidget *parent) { return PlainControls::boolRow(QStringLiteral("field"), finish, parent); });
 }

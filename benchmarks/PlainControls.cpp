@@ -25,18 +25,27 @@ QHBoxLayout *newRow(int margin, int spacing)
     return layout;
 }
 
-QPushButton *newButton(const QPixmap &icon, const QString &toolTip, QWidget *parent)
+void setFlatFrame(QFrame *frame)
+{
+    frame->setFrameStyle(QFrame::Box | QFrame::Plain);
+    frame->setLineWidth(0);
+}
+
+QPushButton *newButton(const QPixmap &icon, const QString &toolTip, PlainControls::Finish finish, QWidget *parent)
 {
     auto *const button = new QPushButton(icon, QString(), parent);
     button->setMaximumSize(20, 20);
     button->setAutoDefault(false);
     button->setFocusPolicy(Qt::NoFocus);
     button->setToolTip(toolTip);
+    if (finish == PlainControls::Complete)
+        button->setAccessibleName(toolTip);
     return button;
 }
 
 /// A frame with a label at its left, two buttons at its right and @p area between them.
-QWidget *framed(const QString &text, QFrame *frame, QWidget *area, QSizePolicy::Policy stretch)
+QWidget *framed(const QString &text, QFrame *frame, QWidget *area, QSizePolicy::Policy stretch,
+                PlainControls::Finish finish)
 {
     static const QPixmap defaultIcon(settodefault_xpm);
     static const QPixmap ignoreIcon(ignorefield_xpm);
@@ -45,10 +54,12 @@ QWidget *framed(const QString &text, QFrame *frame, QWidget *area, QSizePolicy::
     QFont font = label->font();
     font.setPointSize(10);
     label->setFont(font);
+    if (finish == PlainControls::Complete)
+        setFlatFrame(label);
 
     auto *const buttons = newRow(2, 0);
-    buttons->addWidget(newButton(defaultIcon, QStringLiteral("Set to default"), frame));
-    auto *const ignore = newButton(ignoreIcon, QStringLiteral("Ignore this field"), frame);
+    buttons->addWidget(newButton(defaultIcon, QStringLiteral("Set to default"), finish, frame));
+    auto *const ignore = newButton(ignoreIcon, QStringLiteral("Ignore this field"), finish, frame);
     ignore->setCheckable(true);
     buttons->addWidget(ignore);
 
@@ -62,14 +73,13 @@ QWidget *framed(const QString &text, QFrame *frame, QWidget *area, QSizePolicy::
     row->addWidget(label);
     row->addItem(new QSpacerItem(0, 0, stretch, QSizePolicy::Minimum));
     row->addLayout(right);
-    frame->setFrameStyle(QFrame::Box | QFrame::Plain);
-    frame->setLineWidth(0);
+    setFlatFrame(frame);
     frame->setLayout(row);
     return frame;
 }
 } // namespace
 
-QWidget *PlainControls::numberRow(const QString &label, QValidator *validator, QWidget *parent)
+QWidget *PlainControls::numberRow(const QString &label, QValidator *validator, Finish finish, QWidget *parent)
 {
     auto *const frame = new QFrame(parent);
     auto *const area = new QFrame(frame);
@@ -84,14 +94,19 @@ QWidget *PlainControls::numberRow(const QString &label, QValidator *validator, Q
     }
     auto *const slider = new QSlider(Qt::Horizontal, area);
     slider->setRange(0, 100);
+    if (finish == Complete) {
+        live->setAccessibleName(live->toolTip());
+        slider->setAccessibleName(QStringLiteral("Value slider"));
+        edit->setAccessibleName(QStringLiteral("Value"));
+    }
     layout->addWidget(live);
     layout->addWidget(slider);
     layout->addWidget(edit);
     area->setLayout(layout);
-    return framed(label, frame, area, QSizePolicy::Minimum);
+    return framed(label, frame, area, QSizePolicy::Minimum, finish);
 }
 
-QWidget *PlainControls::boolRow(const QString &label, QWidget *parent)
+QWidget *PlainControls::boolRow(const QString &label, Finish finish, QWidget *parent)
 {
     auto *const frame = new QFrame(parent);
     auto *const area = new QFrame(frame);
@@ -99,8 +114,10 @@ QWidget *PlainControls::boolRow(const QString &label, QWidget *parent)
     auto *const box = new QCheckBox(area);
     box->setFixedSize(16, 18);
     layout->addWidget(box);
+    if (finish == Complete)
+        setFlatFrame(area);
     area->setLayout(layout);
-    return framed(label, frame, area, QSizePolicy::Expanding);
+    return framed(label, frame, area, QSizePolicy::Expanding, finish);
 }
 
 QWidget *PlainControls::vectorRow(const QString &label, QWidget *parent)
@@ -111,5 +128,5 @@ QWidget *PlainControls::vectorRow(const QString &label, QWidget *parent)
     for (int i = 0; i < 3; ++i)
         layout->addWidget(new QLineEdit(QStringLiteral("0"), area));
     area->setLayout(layout);
-    return framed(label, frame, area, QSizePolicy::Minimum);
+    return framed(label, frame, area, QSizePolicy::Minimum, Bare);
 }

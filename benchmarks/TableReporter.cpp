@@ -19,7 +19,7 @@ using Cells = std::array<QString, 7>;
 
 void print(std::ostream &out, const Cells &cells)
 {
-    constexpr std::array<int, 7> widths = {44, 11, 36, 11, 8, 16, 12};
+    constexpr std::array<int, 7> widths = {42, 11, 36, 11, 8, 16, 12};
     QString line;
     for (std::size_t i = 0; i < cells.size(); ++i)
         line += cells[i].leftJustified(widths[i]);

@@ -87,8 +87,8 @@ void EditTest::commit()
     QFETCH(int, key);
     SoCone *const cone = *m_cone;
     const QByteArray before = saved(cone);
-    typeHeight("3.5", Qt::Key(key));
-    QApplication::processEvents();
+    typeHeight("3.50", Qt::Key(key));
+    QCOMPARE(height()->text(), QString("3.5"));
     QCOMPARE(cone->height.getValue(), 3.5f);
     QCOMPARE(m_stack->count(), 1);
     QCOMPARE(m_stack->undoText(), QString::fromUtf8("Cone.height: 2 \u2192 3.5"));
@@ -151,6 +151,15 @@ void EditTest::drag()
     QCOMPARE(m_stack->count(), 0);
     QApplication::processEvents();
     QTest::mouseRelease(slider(), Qt::LeftButton, {}, start + QPoint(50, 0));
+    QCOMPARE(m_stack->count(), 1);
+    m_stack->undo();
+    QCOMPARE(bitsOf(cone->height.getValue()), bitsOf(2.3456789f));
+    QApplication::processEvents();
+
+    const QPoint aside(slider()->width() - 4, slider()->height() / 2);
+    QTest::mousePress(slider(), Qt::MiddleButton, {}, aside); // the handle jumps here
+    dragTo(slider(), aside - QPoint(20, 0));
+    QTest::mouseRelease(slider(), Qt::MiddleButton, {}, aside - QPoint(20, 0));
     QCOMPARE(m_stack->count(), 1);
     m_stack->undo();
     QCOMPARE(bitsOf(cone->height.getValue()), bitsOf(2.3456789f));

@@ -3,6 +3,8 @@
 
 #include "PanelFixture.h"
 
+#include "tools/nodescope/FieldObserver.h"
+
 #include <QCheckBox>
 #include <QScrollArea>
 #include <QScrollBar>
@@ -46,6 +48,10 @@ void PanelTest::followsOncePerTurn()
 {
     SoCone *const cone = *m_cone;
     QApplication::processEvents();
+    FieldObserver observer;
+    observer.watch(cone);
+    int changes = 0;
+    connect(&observer, &FieldObserver::fieldChanged, this, [&] { ++changes; });
     PaintCount edit(height());
     PaintCount other(control<QLineEdit>("Cone.bottomRadius"));
     for (int i = 1; i <= 100; ++i)
@@ -54,6 +60,7 @@ void PanelTest::followsOncePerTurn()
     QCOMPARE(height()->text(), QString("5"));
     QTRY_VERIFY(edit.paints > 0);
     QCOMPARE(edit.paints, 1);
+    QCOMPARE(changes, 1);
     QCOMPARE(other.paints, 0);
 
     retype(height(), "7");

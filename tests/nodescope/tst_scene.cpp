@@ -59,8 +59,7 @@ private Q_SLOTS:
         QTest::newRow("unknown node") << QByteArray(
             "Group { Evil { fields [ SFFloat power ] power 0.3 } EvilGroup { fields [ ] Cube { } } }\n");
         QTest::newRow("names and quotes") << QByteArray("Info { string \"a \\\"b\\\" \303\244\" }\n");
-        QTest::newRow("engine")
-            << QByteArray("Cone { height 1 = Calculator { a 2 expression \"oa = a*3\" } . oa }\n");
+        QTest::newRow("engine") << QByteArray("Cone { height 1 = Calculator { a 2 expression \"oa = a*3\" } . oa }\n");
         QTest::newRow("extremes") << QByteArray("Cone { height 3.4028235e+38 bottomRadius 1e-45 }\n");
         QTest::newRow("empty") << QByteArray("\n");
     }

@@ -55,8 +55,10 @@ FieldPanel::FieldPanel(QUndoStack *stack, QWidget *parent)
 
 FieldPanel::~FieldPanel()
 {
+    disconnect(qApp, nullptr, this, nullptr); // the focus still moves while the children die
     m_observer->watch(nullptr);
-    removeRows();
+    for (FieldRow *const row : m_rows)
+        row->release();
 }
 
 void FieldPanel::setNode(SoNode *node)

@@ -102,7 +102,7 @@ QString SceneItem::explanation() const
         lines.append(SceneTree::tr("A type that is not known here; the node is kept and saved as it was read."));
     if (isShared()) {
         const int places = static_cast<SceneTree *>(treeWidget())->placesOf(node());
-        lines.append(SceneTree::tr("Shared: stands in %n places of the scene; a change shows in all of them.", nullptr, places));
+        lines.append(SceneTree::tr("Shared: stands in %1 places of the scene; a change shows in all of them.").arg(places));
     }
     return lines.join(QLatin1Char('\n'));
 }

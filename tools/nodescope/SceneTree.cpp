@@ -6,6 +6,7 @@
 #include "CoinRef.h"
 #include "SceneItem.h"
 
+#include <Inventor/misc/SoChildList.h>
 #include <Inventor/nodes/SoNode.h>
 
 #include <QContextMenuEvent>
@@ -17,7 +18,7 @@ SceneTree::SceneTree(QWidget *parent) : HbGUITreeviewManagement(parent)
 {
     setColumnCount(SceneItem::ColumnCount);
     setHeaderLabels({tr("Type"), tr("Name")});
-    header()->resizeSection(SceneItem::Type, 180);
+    header()->resizeSection(SceneItem::Type, 170);
     setUniformRowHeights(true); // the height of 100,000 rows is asked for once
     setAccessibleName(tr("Scene"));
     connect(this, &QTreeWidget::itemExpanded, this, &SceneTree::fill);
@@ -76,18 +77,26 @@ ScenePath SceneTree::pathOf(QTreeWidgetItem *item) const
 
 int SceneTree::placesOf(const SoNode *node) const
 {
-    if (m_places.empty() && m_root) {
-        std::vector<const SoNode *> open {m_root.get()};
-        while (!open.empty()) {
-            const SoNode *parent = open.back();
-            open.pop_back();
-            for (const SoNode *child : childrenOf(parent))
-                if (++m_places[child] == 1)
-                    open.push_back(child);
+    if (m_places.empty() && m_root)
+        countPlaces();
+    const auto found = m_places.find(node);
+    return found == m_places.end() ? 1 : found->second;
+}
+
+void SceneTree::countPlaces() const
+{
+    m_places[m_root.get()] = 1;
+    std::vector<const SoNode *> open {m_root.get()};
+    while (!open.empty()) {
+        const SoChildList *children = open.back()->getChildren();
+        open.pop_back();
+        for (int i = 0; children && i < children->getLength(); ++i) {
+            const SoNode *child = (*children)[i];
+            const bool onlyHere = child->getRefCount() == 1; // its parent's; saves the look-up for most nodes
+            if (onlyHere || ++m_places[child] == 1)
+                open.push_back(child);
         }
     }
-    const auto found = m_places.find(node);
-    return found == m_places.end() ? 0 : found->second;
 }
 
 void SceneTree::contextMenuEvent(QContextMenuEvent *event)

@@ -47,6 +47,7 @@ protected:
     void contextMenuEvent(QContextMenuEvent *event) override;
 
 private:
+    void countPlaces() const;
     void fill(QTreeWidgetItem *item);
     void follow();
     void refreshBranch(QTreeWidgetItem *item, const SoNode *node);
@@ -55,7 +56,7 @@ private:
 
     std::shared_ptr<SoNode> m_root;
     SceneWatch m_watch;
-    mutable std::unordered_map<const SoNode *, int> m_places; ///< counted when first asked for
+    mutable std::unordered_map<const SoNode *, int> m_places; ///< counted when first asked for; 1 where missing
 };
 
 #endif

@@ -22,6 +22,7 @@
 #include <QMouseEvent>
 #include <QOpenGLContext>
 
+#include <algorithm>
 #include <cmath>
 #include <utility>
 
@@ -195,11 +196,12 @@ void SceneView::mouseMoveEvent(QMouseEvent *event)
     const QPoint way = event->pos() - std::exchange(m_last, event->pos());
     const float right = static_cast<float>(way.x());
     const float down = static_cast<float>(way.y());
+    const float side = static_cast<float>(std::min(width(), height()));
     const bool shift = event->modifiers() & Qt::ShiftModifier;
     if (event->buttons() & Qt::RightButton)
         m_camera.zoom(std::pow(zoomPerPixel, -down));
     else if (shift || event->buttons() & Qt::MiddleButton)
-        m_camera.pan(right / static_cast<float>(height()), -down / static_cast<float>(height()));
+        m_camera.pan(right / side, -down / side);
     else
         m_camera.orbit(-right * orbitPerPixel, down * orbitPerPixel);
     m_atHome = false;
@@ -271,8 +273,8 @@ void SceneView::updateBackground()
 
 void SceneView::pick(const QPoint &position)
 {
-    const SbViewportRegion region = viewport();
-    SbViewVolume volume = m_camera.node()->getViewVolume(region.getViewportAspectRatio());
+    SbViewportRegion region = viewport();
+    const SbViewVolume volume = m_camera.node()->getViewVolume(viewport(), region);
     SbVec3f start;
     SbVec3f direction;
     const SbVec2f place(static_cast<float>(position.x()) / static_cast<float>(width()),

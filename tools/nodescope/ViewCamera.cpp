@@ -106,7 +106,8 @@ void ViewCamera::viewAll(SoNode *root, const SbViewportRegion &viewport)
 void ViewCamera::fit(const SbBox3f &box, float aspect)
 {
     constexpr float margin = 1.05F;
-    const float upwards = std::tan(static_cast<SoPerspectiveCamera *>(m_camera.get())->heightAngle.getValue() / 2);
+    const float angle = static_cast<SoPerspectiveCamera *>(m_camera.get())->heightAngle.getValue();
+    const float upwards = std::tan(angle / 2) / std::min(aspect, 1.0F); // Coin's angle is that of the shorter side
     const float sideways = upwards * aspect;
     const SbVec3f centre = box.getCenter();
     float distance = 0;
@@ -147,13 +148,13 @@ void ViewCamera::orbit(float right, float up)
 
 void ViewCamera::pan(float right, float up)
 {
-    float height = 2 * m_camera->focalDistance.getValue();
+    float size = 2 * m_camera->focalDistance.getValue();
     if (m_camera->isOfType(SoPerspectiveCamera::getClassTypeId()))
-        height *= std::tan(static_cast<SoPerspectiveCamera *>(m_camera.get())->heightAngle.getValue() / 2);
+        size *= std::tan(static_cast<SoPerspectiveCamera *>(m_camera.get())->heightAngle.getValue() / 2);
     else if (m_camera->isOfType(SoOrthographicCamera::getClassTypeId()))
-        height = static_cast<SoOrthographicCamera *>(m_camera.get())->height.getValue();
+        size = static_cast<SoOrthographicCamera *>(m_camera.get())->height.getValue();
     const SbVec3f way = turned(*m_camera, cameraRight) * right + turned(*m_camera, cameraUp) * up;
-    m_camera->position = m_camera->position.getValue() - way * height;
+    m_camera->position = m_camera->position.getValue() - way * size;
 }
 
 void ViewCamera::zoom(float factor)

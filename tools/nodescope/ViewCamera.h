@@ -33,7 +33,7 @@ public:
 
     /// Turns around the point looked at, by angles in radians: to the right and upwards.
     void orbit(float right, float up);
-    /// Moves the picture by fractions of its height.
+    /// Moves the picture by fractions of its shorter side.
     void pan(float right, float up);
     /// Makes everything larger by @p factor.
     void zoom(float factor);
