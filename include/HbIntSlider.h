@@ -11,8 +11,6 @@ class QIntValidator;
 /// A slider for signed integers of 32 or 16 bits; position and value are the same number.
 class HARBORAPI_EXPORT HbIntSlider : public HbSlider
 {
-    Q_OBJECT
-
 public:
     /// @p type decides which numbers may be typed: Int16 those of 16 bits, all others those of 32.
     HbIntSlider(SliderType type, SliderParentType parentType, HbFieldEditors *editor,

@@ -11,8 +11,6 @@ class QDoubleValidator;
 /// A slider for single-precision numbers, shown with 6 significant digits; the slider has 100 steps.
 class HARBORAPI_EXPORT HbRealSlider : public HbSlider
 {
-    Q_OBJECT
-
 public:
     HbRealSlider(SliderParentType parentType, HbFieldEditors *editor, HbFieldEditorCommandManager *commandManager,
                  QWidget *parent, int row, int col);

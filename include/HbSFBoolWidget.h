@@ -11,8 +11,6 @@ class QCheckBox;
 /// Edits an SoSFBool with one check box; each click commits at once.
 class HARBORAPI_EXPORT HbSFBoolWidget : public HbSFieldWidget
 {
-    Q_OBJECT
-
 public:
     HbSFBoolWidget(const char *label, HbFieldEditorCommandManager *manager, QWidget *parent, const char *name,
                    Qt::WindowFlags flags);

@@ -16,8 +16,6 @@ class HbRealSlider;
  */
 class HARBORAPI_EXPORT HbSFFloatWidget : public HbSFieldWidget
 {
-    Q_OBJECT
-
 public:
     /// The float bounds of @p range are read once, here.
     HbSFFloatWidget(const char *label, const HbRangeComponent &range, HbFieldEditorCommandManager *manager,

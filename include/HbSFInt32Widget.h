@@ -12,8 +12,6 @@ class HbIntSlider;
 /// Edits an SoSFInt32 with a slider and an edit.
 class HARBORAPI_EXPORT HbSFInt32Widget : public HbSFieldWidget
 {
-    Q_OBJECT
-
 public:
     /// The integer bounds of @p range are read once, here.
     HbSFInt32Widget(const char *label, const HbRangeComponent &range, HbFieldEditorCommandManager *manager,

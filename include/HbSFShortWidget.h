@@ -12,8 +12,6 @@ class HbIntSlider;
 /// Edits an SoSFShort with a slider and an edit. A value of more than 16 bits is left to the parser of the field.
 class HARBORAPI_EXPORT HbSFShortWidget : public HbSFieldWidget
 {
-    Q_OBJECT
-
 public:
     /// The integer bounds of @p range are read once, here.
     HbSFShortWidget(const char *label, const HbRangeComponent &range, HbFieldEditorCommandManager *manager,

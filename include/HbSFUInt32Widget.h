@@ -13,8 +13,6 @@ class HbUIntSlider;
 /// Negative bounds of the range count as 0.
 class HARBORAPI_EXPORT HbSFUInt32Widget : public HbSFieldWidget
 {
-    Q_OBJECT
-
 public:
     /// The integer bounds of @p range are read once, here.
     HbSFUInt32Widget(const char *label, const HbRangeComponent &range, HbFieldEditorCommandManager *manager,

@@ -13,8 +13,6 @@ class HbUIntSlider;
 /// Negative bounds of the range count as 0; a value of more than 16 bits is cut to its low 16.
 class HARBORAPI_EXPORT HbSFUShortWidget : public HbSFieldWidget
 {
-    Q_OBJECT
-
 public:
     /// The integer bounds of @p range are read once, here.
     HbSFUShortWidget(const char *label, const HbRangeComponent &range, HbFieldEditorCommandManager *manager,

@@ -14,8 +14,6 @@
  */
 class HARBORAPI_EXPORT HbUIntSlider : public HbSlider
 {
-    Q_OBJECT
-
 public:
     /// @p type decides the highest value: 65535 for UInt16, 4294967295 for all others.
     HbUIntSlider(SliderType type, SliderParentType parentType, HbFieldEditors *editor,

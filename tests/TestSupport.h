@@ -43,11 +43,11 @@ inline bool record(const QString &text)
 inline void listen()
 {
     SoDB::init();
-    previousHandler = qInstallMessageHandler(
-        [](QtMsgType type, const QMessageLogContext &context, const QString &text) {
-            if (type == QtDebugMsg || type == QtInfoMsg || record(text))
-                previousHandler(type, context, text);
-        });
+    previousHandler
+        = qInstallMessageHandler([](QtMsgType type, const QMessageLogContext &context, const QString &text) {
+              if (type == QtDebugMsg || type == QtInfoMsg || record(text))
+                  previousHandler(type, context, text);
+          });
     SoDebugError::setHandlerCallback(
         [](const SoError *error, void *) { record(QString::fromUtf8(error->getDebugString().getString())); }, nullptr);
 }
@@ -107,10 +107,7 @@ private:
 class RecordingEditor : public HbFieldEditors
 {
 public:
-    RecordingEditor()
-        : HbFieldEditors(nullptr, {})
-    {
-    }
+    RecordingEditor() : HbFieldEditors(nullptr, {}) { }
     void updateEditor() override
     {
         log << QStringLiteral("update");
@@ -124,13 +121,13 @@ public:
     }
     void refresh() override { log << QStringLiteral("refresh"); }
     void setRefresh(bool on) override { log << QStringLiteral("setRefresh %1").arg(on); }
-    void swapRows(int, int) override {}
-    void swapColumns(int, int) override {}
+    void swapRows(int, int) override { }
+    void swapColumns(int, int) override { }
     void set1Value(int row, int col, QString text) override
     {
         log << QStringLiteral("set1Value %1 %2 %3").arg(row).arg(col).arg(text);
     }
-    void setValue(int, const void *) override {}
+    void setValue(int, const void *) override { }
     void applyChanges() override { log << QStringLiteral("apply"); }
 
     QStringList takeLog() { return std::exchange(log, {}); }
@@ -145,11 +142,7 @@ public:
 template <class Node> class Ref
 {
 public:
-    explicit Ref(Node *node = new Node)
-        : m_node(node)
-    {
-        m_node->ref();
-    }
+    explicit Ref(Node *node = new Node) : m_node(node) { m_node->ref(); }
     ~Ref() { m_node->unref(); }
     Q_DISABLE_COPY(Ref)
 

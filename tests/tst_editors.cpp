@@ -107,7 +107,7 @@ private Q_SLOTS:
             QVERIFY(!button(widget, name)->autoDefault());
         }
         const Widget slider(Widget::RealSliderFrame, &manager, nullptr, "mine", {});
-        QVERIFY(slider.findChild<HbRealSlider *>());
+        QVERIFY(slider.findChild<HbSlider *>());
         QCOMPARE(slider.objectName(), QStringLiteral("mine"));
         const Widget odd(static_cast<Widget::SFFrameType>(77), &manager, nullptr, nullptr, {});
         QVERIFY(odd.findChild<QFrame *>(QStringLiteral("m_editionFrame")));

@@ -40,34 +40,50 @@ const HbRangeComponent integers(0, 100, false);
 const HbRangeComponent reals(0.0f, 10.0f, false);
 
 const EditorKind kinds[] = {
-    {"HbSFFloatWidget", "SFFloat",
+    {"HbSFFloatWidget",
+     "SFFloat",
      [](Manager *manager) { return new HbSFFloatWidget("label", reals, manager, nullptr, nullptr, {}); },
-     {"0", "-5", "250", "3.40282e+38", "-1.17549e-38", "nan", "inf", "-inf"}, "2.5", "2.5"},
-    {"HbSFInt32Widget", "SFInt32",
+     {"0", "-5", "250", "3.40282e+38", "-1.17549e-38", "nan", "inf", "-inf"},
+     "2.5",
+     "2.5"},
+    {"HbSFInt32Widget",
+     "SFInt32",
      [](Manager *manager) { return new HbSFInt32Widget("label", integers, manager, nullptr, nullptr, {}); },
-     {"0", "-12", "2147483647", "-2147483648"}, "-7", "-7"},
-    {"HbSFShortWidget", "SFShort",
+     {"0", "-12", "2147483647", "-2147483648"},
+     "-7",
+     "-7"},
+    {"HbSFShortWidget",
+     "SFShort",
      [](Manager *manager) { return new HbSFShortWidget("label", integers, manager, nullptr, nullptr, {}); },
-     {"0", "32767", "-32768"}, "123", "123"},
-    {"HbSFUInt32Widget", "SFUInt32",
+     {"0", "32767", "-32768"},
+     "123",
+     "123"},
+    {"HbSFUInt32Widget",
+     "SFUInt32",
      [](Manager *manager) { return new HbSFUInt32Widget("label", integers, manager, nullptr, nullptr, {}); },
-     {"0x10", "0xffffffff", "0"}, "ff", "0xff"},
-    {"HbSFUShortWidget", "SFUShort",
+     {"0x10", "0xffffffff", "0"},
+     "ff",
+     "0xff"},
+    {"HbSFUShortWidget",
+     "SFUShort",
      [](Manager *manager) { return new HbSFUShortWidget("label", integers, manager, nullptr, nullptr, {}); },
-     {"0x10", "0xffff", "0"}, "2a", "0x2a"},
-    {"HbSFBoolWidget", "SFBool",
-     [](Manager *manager) { return new HbSFBoolWidget("label", manager, nullptr, nullptr, {}); }, {"TRUE", "FALSE"},
-     QString(), "TRUE"},
+     {"0x10", "0xffff", "0"},
+     "2a",
+     "0x2a"},
+    {"HbSFBoolWidget",
+     "SFBool",
+     [](Manager *manager) { return new HbSFBoolWidget("label", manager, nullptr, nullptr, {}); },
+     {"TRUE", "FALSE"},
+     QString(),
+     "TRUE"},
 };
 
 /// An editor of the kind in the test's row, with a field of its own.
 struct Bench {
     explicit Bench(Manager *manager)
-        : kind(kinds[currentRow])
-        , field(static_cast<SoField *>(SoType::fromName(kind.fieldType).createInstance()))
-        , editor(kind.build(manager))
-        , edit(editor->findChild<QLineEdit *>())
-        , box(editor->findChild<QCheckBox *>(QStringLiteral("m_box")))
+        : kind(kinds[currentRow]), field(static_cast<SoField *>(SoType::fromName(kind.fieldType).createInstance())),
+          editor(kind.build(manager)), edit(editor->findChild<QLineEdit *>()),
+          box(editor->findChild<QCheckBox *>(QStringLiteral("m_box")))
     {
         set(kind.values.first());
         editor->setField(field.get());

@@ -27,9 +27,8 @@ constexpr int intMax = std::numeric_limits<int>::max();
 template <class Slider> struct Bench {
     template <class... Type>
     explicit Bench(HbSlider::SliderParentType parentType, HbFieldEditorCommandManager *manager, Type... type)
-        : control(type..., parentType, &editor, manager, nullptr, 3, 1)
-        , edit(control.template findChild<QLineEdit *>())
-        , slider(control.template findChild<QSlider *>())
+        : control(type..., parentType, &editor, manager, nullptr, 3, 1),
+          edit(control.template findChild<QLineEdit *>()), slider(control.template findChild<QSlider *>())
     {
         control.show();
     }
@@ -63,10 +62,14 @@ private Q_SLOTS:
         QTest::addColumn<bool>("live");
         QTest::addColumn<QString>("editorLog");
         QTest::addColumn<QString>("managerLog");
-        QTest::newRow("direct, live") << false << true << "apply apply apply" << "";
-        QTest::newRow("direct, at the end") << false << false << "apply" << "";
-        QTest::newRow("managed, live") << true << true << "apply apply" << "sfield 10";
-        QTest::newRow("managed, at the end") << true << false << "" << "sfield 10";
+        QTest::newRow("direct, live") << false << true << "apply apply apply"
+                                      << "";
+        QTest::newRow("direct, at the end") << false << false << "apply"
+                                            << "";
+        QTest::newRow("managed, live") << true << true << "apply apply"
+                                       << "sfield 10";
+        QTest::newRow("managed, at the end") << true << false << ""
+                                             << "sfield 10";
     }
 
     void dragOfASingleField()
@@ -165,13 +168,27 @@ private Q_SLOTS:
         QTest::addColumn<QString>("text");
         QTest::addColumn<int>("value");
         QTest::addColumn<bool>("validated");
-        QTest::newRow("hexadecimal") << "0x1F" << "1F" << "0x1F" << 31 << false;
-        QTest::newRow("octal") << "07" << "7" << "07" << 7 << false;
-        QTest::newRow("long zero is decimal") << "017" << "017" << "017" << 17 << true;
-        QTest::newRow("too short for hexadecimal") << "0x" << "x" << "0x" << 0 << false;
-        QTest::newRow("negative") << "-12" << "-12" << "-12" << -12 << true;
-        QTest::newRow("no number") << "abc" << "abc" << "abc" << 0 << true;
-        QTest::newRow("too large") << "99999999999" << "99999999999" << "99999999999" << 0 << true;
+        QTest::newRow("hexadecimal") << "0x1F"
+                                     << "1F"
+                                     << "0x1F" << 31 << false;
+        QTest::newRow("octal") << "07"
+                               << "7"
+                               << "07" << 7 << false;
+        QTest::newRow("long zero is decimal") << "017"
+                                              << "017"
+                                              << "017" << 17 << true;
+        QTest::newRow("too short for hexadecimal") << "0x"
+                                                   << "x"
+                                                   << "0x" << 0 << false;
+        QTest::newRow("negative") << "-12"
+                                  << "-12"
+                                  << "-12" << -12 << true;
+        QTest::newRow("no number") << "abc"
+                                   << "abc"
+                                   << "abc" << 0 << true;
+        QTest::newRow("too large") << "99999999999"
+                                   << "99999999999"
+                                   << "99999999999" << 0 << true;
     }
 
     void firstValueDecidesTheBase()
@@ -326,40 +343,58 @@ private Q_SLOTS:
 
     void lockedTypingIsClampedOnCommit_data()
     {
-        QTest::addColumn<bool>("byReturn");
-        QTest::newRow("by Return") << true;
-        QTest::newRow("by leaving") << false;
+        QTest::addColumn<float>("min");
+        QTest::addColumn<float>("max");
+        QTest::addColumn<QString>("typed");
+        QTest::addColumn<QString>("shown");
+        QTest::newRow("above, to a bound that 6 digits do not tell") << 0.1f << 2.0f / 3.0f << "7"
+                                                                     << "0.666667";
+        QTest::newRow("below zero") << 0.0f << 1.0f << "-5"
+                                    << "0";
+        QTest::newRow("too many digits") << -10.0f << 10.0f << "-50"
+                                         << "-10";
+        QTest::newRow("too few digits") << 10.0f << 50.0f << "3"
+                                        << "10";
+        QTest::newRow("beyond a float") << 0.0f << 1.0f << "1e300"
+                                        << "1";
+        QTest::newRow("unfinished") << 10.0f << 50.0f << "-"
+                                    << "-";
+        QTest::newRow("no number") << 0.0f << 1.0f << "xy"
+                                   << "";
     }
 
     void lockedTypingIsClampedOnCommit()
     {
-        QFETCH(bool, byReturn);
-        const auto commit = [byReturn](QLineEdit *edit) {
-            if (byReturn)
-                QTest::keyClick(edit, Qt::Key_Return);
-            else
-                QCoreApplication::sendEvent(edit, std::make_unique<QFocusEvent>(QEvent::FocusOut).get());
-        };
+        QFETCH(float, min);
+        QFETCH(float, max);
+        QFETCH(QString, typed);
+        QFETCH(QString, shown);
         RecordingManager manager;
+        const auto check = [&](auto &bench, const QString &expected, auto commit) {
+            retype(bench.edit, typed);
+            commit(bench.edit);
+            QCOMPARE(bench.edit->text(), expected);
+            QCOMPARE(manager.takeLog().isEmpty(), expected == QLatin1String("-") || expected.isEmpty());
+        };
+        const auto enter = [](QLineEdit *edit) { QTest::keyClick(edit, Qt::Key_Return); };
+        const auto leave = [](QLineEdit *edit) {
+            QCoreApplication::sendEvent(edit, std::make_unique<QFocusEvent>(QEvent::FocusOut).get());
+        };
         Bench<HbRealSlider> real(HbSlider::SingleField, &manager);
-        real.control.setValidLimits(0.1f, 2.0f / 3.0f, true); // bounds that 6 digits do not tell exactly
-        real.control.setRealValue(0.5f);
-        retype(real.edit, QStringLiteral("7"));
-        commit(real.edit);
-        QCOMPARE(real.control.getRealValue(), 2.0f / 3.0f);
-        QVERIFY(manager.takeLog().contains(QLatin1String("sfield null")));
-        QCOMPARE(real.edit->text(), QStringLiteral("0.666667"));
+        real.control.setValidLimits(min, max, true);
+        real.control.setRealValue(min);
+        check(real, shown, enter);
+        check(real, shown, leave);
+        if (shown == QLatin1String("0.666667"))
+            QCOMPARE(real.control.getRealValue(), max);
+        if (min != std::trunc(min) || typed.contains(QLatin1Char('e')))
+            return;
 
         Bench<HbIntSlider> integer(HbSlider::SingleField, &manager, HbSlider::Int32);
-        integer.control.setValidLimits(10, 50, true);
-        integer.control.setValue(QStringLiteral("20"));
-        retype(integer.edit, QStringLiteral("3"));
-        commit(integer.edit);
-        QCOMPARE(integer.control.getIntValue(), 10);
-        QVERIFY(!manager.takeLog().isEmpty());
-        retype(integer.edit, QStringLiteral("-"));
-        commit(integer.edit);
-        QCOMPARE(manager.takeLog(), QStringList()); // unfinished
+        integer.control.setValidLimits(static_cast<int>(min), static_cast<int>(max), true);
+        integer.control.setValue(QString::number(min));
+        check(integer, shown, enter);
+        check(integer, shown, leave);
     }
 
     void commaLocaleChangesNothing()

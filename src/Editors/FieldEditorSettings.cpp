@@ -4,7 +4,7 @@
 #include "FieldEditorSettings.h"
 
 #include <QByteArray>
-#include <QMap>
+#include <QHash>
 #include <QString>
 
 namespace
@@ -70,7 +70,7 @@ constexpr Setting fieldEditorSettings[] = {
 
 int nscsettings_fieldEditor(const QString &key)
 {
-    static QMap<QString, int> dict;
+    static QHash<QString, int> dict;
     const auto known = dict.constFind(key);
     if (known != dict.constEnd())
         return *known;

@@ -27,6 +27,9 @@ HbSlider::HbSlider(SliderParentType parentType, HbFieldEditors *editor, HbFieldE
     m_layout->setContentsMargins(margin, margin, margin, margin);
     m_layout->setSpacing(parentType == SingleField ? 4 : 3);
     m_layout->setObjectName(QStringLiteral("nodescopeslider"));
+    edit->setObjectName(QStringLiteral("edit"));
+    slider->setObjectName(QStringLiteral("slider"));
+    notifyBox->setObjectName(QStringLiteral("notifyBox"));
     m_layout->addWidget(notifyBox, 0);
     m_layout->addWidget(slider, 0);
     m_layout->addWidget(edit, 0);

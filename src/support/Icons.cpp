@@ -11,13 +11,12 @@
 namespace
 {
 /// Reading an XPM costs more than the rest of a small editor; the cache shares it among all editors.
-QPixmap cached(const char *key, const char *const *xpm)
+QPixmap cached(QPixmapCache::Key *key, const char *const *xpm)
 {
     QPixmap pixmap;
-    const QString name = QLatin1String("HarborAPI/") + QLatin1String(key);
-    if (!QPixmapCache::find(name, &pixmap)) {
+    if (!QPixmapCache::find(*key, &pixmap)) {
         pixmap = QPixmap(xpm);
-        QPixmapCache::insert(name, pixmap);
+        *key = QPixmapCache::insert(pixmap);
     }
     return pixmap;
 }
@@ -25,10 +24,12 @@ QPixmap cached(const char *key, const char *const *xpm)
 
 QPixmap Icons::setToDefault()
 {
-    return cached("settodefault", settodefault_xpm);
+    static QPixmapCache::Key key;
+    return cached(&key, settodefault_xpm);
 }
 
 QPixmap Icons::ignoreField()
 {
-    return cached("ignorefield", ignorefield_xpm);
+    static QPixmapCache::Key key;
+    return cached(&key, ignorefield_xpm);
 }

@@ -11,6 +11,7 @@
 #include <QLineEdit>
 #include <QLocale>
 
+#include <type_traits>
 #include <utility>
 
 /**
@@ -39,9 +40,13 @@ public:
     QValidator::State validate(QString &text, int &position) const override
     {
         const QValidator::State state = QtValidator::validate(text, position);
+        if (!m_clamping || state == QValidator::Acceptable)
+            return state;
         // the text of a bound, cut to 6 digits, may lie just outside
-        const bool isBound = m_clamping && (text == textOf(this->bottom()) || text == textOf(this->top()));
-        return isBound ? QValidator::Acceptable : state;
+        if (text == textOf(this->bottom()) || text == textOf(this->top()))
+            return QValidator::Acceptable;
+        // a number beyond the range must be typed before it can be clamped
+        return beginsNumber(text, position) ? QValidator::Intermediate : state;
     }
 
     void fixup(QString &text) const override
@@ -56,6 +61,16 @@ public:
     }
 
 private:
+    /// Whether the text is a number, or begins one, whatever the range.
+    bool beginsNumber(QString text, int position) const
+    {
+        QtValidator whole;
+        whole.setLocale(this->locale());
+        if constexpr (std::is_same_v<QtValidator, QDoubleValidator>)
+            whole.setDecimals(this->decimals());
+        return whole.validate(text, position) != QValidator::Invalid;
+    }
+
     static QString textOf(int number) { return QString::number(number); }
     static QString textOf(double number) { return NumberText::fromFloat(static_cast<float>(number)); }
 

@@ -19,6 +19,8 @@ CoinEventLoop::CoinEventLoop(QObject *parent) : QObject(parent)
     connect(&m_timerQueue, &QTimer::timeout, this, &CoinEventLoop::runTimers);
     connect(&m_delayQueue, &QTimer::timeout, this, &CoinEventLoop::runDelayed);
     SoDB::getSensorManager()->setChangedCallback(&CoinEventLoop::queueChanged, this);
+    constexpr double ticksPerSecond = 30;
+    SoDB::setRealTimeInterval(SbTime(1 / ticksPerSecond));
     updateClock();
     schedule();
 }
@@ -30,17 +32,11 @@ CoinEventLoop::~CoinEventLoop()
 
 void CoinEventLoop::updateClock()
 {
-    constexpr double ticksPerSecond = 30;
     SoFieldList listeners;
     const bool needed = SoDB::getGlobalField("realTime")->getForwardConnections(listeners) > 0;
-    const SbTime interval = needed ? SbTime(1 / ticksPerSecond) : SbTime::zero();
-    if (SoDB::getRealTimeInterval() != interval)
-        SoDB::setRealTimeInterval(interval); // zero stops the clock
-}
-
-bool CoinEventLoop::isClockRunning()
-{
-    return SoDB::getRealTimeInterval() != SbTime::zero();
+    if (needed != s_clockRuns)
+        SoDB::enableRealTimeSensor(needed);
+    s_clockRuns = needed;
 }
 
 void CoinEventLoop::queueChanged(void *self)

@@ -23,7 +23,7 @@ public:
 
     /// Starts or stops Coin's clock; to be called after a scene, or a connection in it, has changed.
     static void updateClock();
-    static bool isClockRunning();
+    static bool isClockRunning() { return s_clockRuns; }
 
 private:
     static void queueChanged(void *self);
@@ -31,6 +31,7 @@ private:
     void runTimers();
     void runDelayed();
 
+    inline static bool s_clockRuns = true; // as Coin starts
     QTimer m_timerQueue;
     QTimer m_delayQueue;
 };

@@ -8,7 +8,7 @@
 #include "SceneDocument.h"
 #include "SceneTree.h"
 
-#include <HbSFFloatWidget.h>
+#include <HbSlider.h>
 
 #include <Inventor/fields/SoSFFloat.h>
 #include <Inventor/lists/SoFieldList.h>
@@ -19,7 +19,8 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 
-namespace {
+namespace
+{
 
 constexpr int pause = 350; // milliseconds, so that an onlooker can follow
 
@@ -39,7 +40,7 @@ bool collectShapes(const SoNode *parent, const ScenePath &path, QVector<ScenePat
     constexpr int enough = 3;
     int index = 0;
     for (const SoNode *child : childrenOf(parent)) {
-        const ScenePath place = path + ScenePath {index++};
+        const ScenePath place = path + ScenePath{index++};
         if (child->isOfType(SoShape::getClassTypeId()) && hasNumber(child))
             found->append(place);
         if (found->size() >= enough || collectShapes(child, place, found))
@@ -113,6 +114,6 @@ bool Demo::undo()
 
 QLineEdit *Demo::numberEdit() const
 {
-    const auto *editor = m_window->panel()->findChild<HbSFFloatWidget *>();
-    return editor ? editor->findChild<QLineEdit *>() : nullptr;
+    const auto *slider = m_window->panel()->findChild<HbSlider *>();
+    return slider ? slider->findChild<QLineEdit *>() : nullptr;
 }

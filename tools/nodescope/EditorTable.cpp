@@ -81,12 +81,13 @@ HbRangeComponent EditorTable::rangeFor(const EditorKind &kind, const SoField &fi
 
 void EditorTable::resetRange(HbFieldEditors &editor, const HbRangeComponent &range)
 {
-    if (auto *const real = editor.findChild<HbRealSlider *>()) {
+    auto *const slider = editor.findChild<HbSlider *>();
+    if (auto *const real = dynamic_cast<HbRealSlider *>(slider)) {
         real->setValidLimits(range.fMin, range.fMax, range.boundFixed);
         real->setValidLimits(range.fMin, range.fMax, range.boundFixed); // the top's position hangs on the bottom
-    } else if (auto *const integer = editor.findChild<HbIntSlider *>()) {
+    } else if (auto *const integer = dynamic_cast<HbIntSlider *>(slider)) {
         integer->setValidLimits(range.iMin, range.iMax, range.boundFixed);
-    } else if (auto *const natural = editor.findChild<HbUIntSlider *>()) {
+    } else if (auto *const natural = dynamic_cast<HbUIntSlider *>(slider)) {
         natural->setValidLimits(static_cast<unsigned>(qMax(range.iMin, 0)), static_cast<unsigned>(qMax(range.iMax, 0)),
                                 range.boundFixed);
     }

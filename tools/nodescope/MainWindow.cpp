@@ -23,7 +23,8 @@
 #include <QSettings>
 #include <QStatusBar>
 
-namespace {
+namespace
+{
 
 const QLatin1String geometryKey("geometry");
 const QLatin1String stateKey("state");
@@ -38,9 +39,9 @@ QString droppedFile(const QMimeData *data)
 
 MainWindow::MainWindow(QWidget *parent)
     : HbGUIManagement(parent), m_document(new SceneDocument(this)), m_tree(new SceneTree),
-      m_panel(new FieldPanel(m_document->undoStack())), m_messages(new MessageBar),
-      m_coin([this](const QString &text) {
-          QMetaObject::invokeMethod(this, [this, text] { m_messages->add(text); }, Qt::QueuedConnection);
+      m_panel(new FieldPanel(m_document->undoStack())), m_messages(new MessageBar), m_coin([this](const QString &text) {
+          QMetaObject::invokeMethod(
+              this, [this, text] { m_messages->add(text); }, Qt::QueuedConnection);
       })
 {
     createCentre();

@@ -9,7 +9,8 @@
 #include <QListWidget>
 #include <QToolButton>
 
-namespace {
+namespace
+{
 constexpr int mostMessages = 500;
 constexpr int linesShown = 6;
 } // namespace

@@ -11,7 +11,8 @@
 #include <cstdio>
 #include <cstring>
 
-namespace {
+namespace
+{
 
 QString description()
 {
@@ -53,8 +54,8 @@ std::optional<Options> Options::parse(const QStringList &arguments, int *exitCod
         "select", "Selects a node: names and child indices, separated by '/', e.g. Lighthouse/0/Lamp.", "path");
     const QCommandLineOption size = option("size", "The window's size, e.g. 1200x800.", "WxH");
     const QCommandLineOption demo = option("demo", "Plays a short demonstration and ends.");
-    const QCommandLineOption libraries = option(
-        "allow-node-libraries", "Runs shared libraries that are named after node types which the scene uses.");
+    const QCommandLineOption libraries
+        = option("allow-node-libraries", "Runs shared libraries that are named after node types which the scene uses.");
 
     QCommandLineParser parser;
     parser.setApplicationDescription(description());

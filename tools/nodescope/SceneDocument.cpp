@@ -36,10 +36,11 @@ bool SceneDocument::open(const QString &fileName, QStringList *messages)
     std::swap(m_file, file); // the old scene lives until everyone has turned to the new one
     m_fileName = QFileInfo(fileName).absoluteFilePath();
     m_watch.watch(root());
-    CoinEventLoop::updateClock();
     m_undoMoved = false;
     setChangedElsewhere(false);
     Q_EMIT opened();
+    file.root.reset();
+    CoinEventLoop::updateClock(); // nobody listens for the old scene any more
     return true;
 }
 

@@ -13,14 +13,12 @@
 #include <QIcon>
 #include <QPainter>
 
-namespace {
+namespace
+{
 
 /// Lends a name to a function that Coin keeps for its own classes: what a node is called in files.
 struct FileName : SoBase {
-    static QString of(const SoNode *node)
-    {
-        return QString::fromLatin1((node->*&FileName::getFileFormatName)());
-    }
+    static QString of(const SoNode *node) { return QString::fromLatin1((node->*&FileName::getFileFormatName)()); }
 };
 
 bool isUnknown(const SoNode *node)
@@ -73,7 +71,8 @@ QVariant SceneItem::data(int column, int role) const
     case Qt::ToolTipRole:
         return explanation();
     case Qt::AccessibleTextRole:
-        return column == Type && isShared() ? SceneTree::tr("%1, shared").arg(typeName()) : data(column, Qt::DisplayRole);
+        return column == Type && isShared() ? SceneTree::tr("%1, shared").arg(typeName())
+                                            : data(column, Qt::DisplayRole);
     case Qt::DecorationRole:
         if (column == Type && isShared())
             return sharedIcon(treeWidget()->palette().color(QPalette::Text));
@@ -97,12 +96,13 @@ QString SceneItem::typeName() const
 
 QString SceneItem::explanation() const
 {
-    QStringList lines {typeName()};
+    QStringList lines{typeName()};
     if (isUnknown(node()))
         lines.append(SceneTree::tr("A type that is not known here; the node is kept and saved as it was read."));
     if (isShared()) {
         const int places = static_cast<SceneTree *>(treeWidget())->placesOf(node());
-        lines.append(SceneTree::tr("Shared: stands in %1 places of the scene; a change shows in all of them.").arg(places));
+        lines.append(
+            SceneTree::tr("Shared: stands in %1 places of the scene; a change shows in all of them.").arg(places));
     }
     return lines.join(QLatin1Char('\n'));
 }

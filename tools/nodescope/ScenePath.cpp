@@ -14,7 +14,8 @@
 #include <unordered_set>
 #include <utility>
 
-namespace {
+namespace
+{
 
 QString nameOf(const SoNode *node)
 {
@@ -38,14 +39,14 @@ bool descendByIndex(Place *place, int index)
 
 bool descendByName(Place *place, const QString &name)
 {
-    std::deque<Place> open {*place};
+    std::deque<Place> open{*place};
     std::unordered_set<SoNode *> seen;
     while (!open.empty()) {
         const Place parent = std::move(open.front());
         open.pop_front();
         int index = 0;
         for (SoNode *const node : childrenOf(parent.node)) {
-            Place child {node, parent.path};
+            Place child{node, parent.path};
             child.path.append(index++);
             if (nameOf(node) == name) {
                 *place = std::move(child);
@@ -71,7 +72,7 @@ std::vector<SoNode *> childrenOf(const SoNode *node)
 
 ScenePath findPath(SoNode *root, const QString &text, QString *problem)
 {
-    Place place {root, {}};
+    Place place{root, {}};
     for (const QString &step : text.split(QLatin1Char('/'))) {
         bool isIndex = false;
         const int index = step.toInt(&isIndex);

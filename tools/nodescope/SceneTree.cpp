@@ -86,7 +86,7 @@ int SceneTree::placesOf(const SoNode *node) const
 void SceneTree::countPlaces() const
 {
     m_places[m_root.get()] = 1;
-    std::vector<const SoNode *> open {m_root.get()};
+    std::vector<const SoNode *> open{m_root.get()};
     while (!open.empty()) {
         const SoChildList *children = open.back()->getChildren();
         open.pop_back();

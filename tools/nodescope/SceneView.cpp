@@ -8,6 +8,7 @@
 
 #include <Inventor/SoFullPath.h>
 #include <Inventor/SoPickedPoint.h>
+#include <Inventor/VRMLnodes/SoVRMLLight.h>
 #include <Inventor/actions/SoRayPickAction.h>
 #include <Inventor/actions/SoSearchAction.h>
 #include <Inventor/elements/SoGLCacheContextElement.h>
@@ -16,7 +17,6 @@
 #include <Inventor/nodes/SoDirectionalLight.h>
 #include <Inventor/nodes/SoSeparator.h>
 #include <Inventor/nodes/SoSwitch.h>
-#include <Inventor/VRMLnodes/SoVRMLLight.h>
 
 #include <QApplication>
 #include <QMouseEvent>
@@ -26,7 +26,8 @@
 #include <cmath>
 #include <utility>
 
-namespace {
+namespace
+{
 
 constexpr float orbitPerPixel = 0.008F;
 constexpr float orbitPerKey = 0.12F;
@@ -84,7 +85,7 @@ SceneView::SceneView(QWidget *parent)
     SoRenderManager::enableRealTimeUpdate(FALSE); // the clock ticks in the event loop
     m_manager->setGLRenderAction(m_action.get());
     m_action->setTransparencyType(SoGLRenderAction::SORTED_OBJECT_BLEND);
-    m_manager->setAutoClipping(SoRenderManager::VARIABLE_NEAR_PLANE);
+    m_manager->setAutoClipping(SoRenderManager::NO_AUTO_CLIPPING); // done before each frame
     m_manager->setRenderCallback([](void *self, SoRenderManager *) { static_cast<SceneView *>(self)->update(); }, this);
     m_manager->setSceneGraph(m_superRoot.get());
     m_manager->activate();
@@ -164,6 +165,8 @@ void SceneView::releaseGL()
 void SceneView::paintGL()
 {
     m_manager->setViewportRegion(viewport());
+    if (m_scene)
+        m_camera.clip(m_scene.get(), viewport());
     m_manager->render();
     Q_EMIT painted();
 }

@@ -24,7 +24,8 @@ private:
     SceneWatch &m_owner;
 };
 
-namespace {
+namespace
+{
 
 enum class Change { Touch, Value, Driven, Structure, Unclear };
 

@@ -8,6 +8,7 @@
 #include <Inventor/SbMatrix.h>
 #include <Inventor/SbRotation.h>
 #include <Inventor/SbViewportRegion.h>
+#include <Inventor/SbXfBox3f.h>
 #include <Inventor/actions/SoGetBoundingBoxAction.h>
 #include <Inventor/actions/SoGetMatrixAction.h>
 #include <Inventor/actions/SoSearchAction.h>
@@ -123,6 +124,31 @@ void ViewCamera::fit(const SbBox3f &box, float aspect)
     }
     m_camera->focalDistance = distance;
     m_camera->position = centre - direction() * distance;
+}
+
+void ViewCamera::clip(SoNode *root, const SbViewportRegion &viewport)
+{
+    constexpr float slack = 0.01F;
+    constexpr float depthRange = 1000; // what a depth buffer of 24 bits resolves well
+    SoGetBoundingBoxAction action(viewport);
+    action.apply(root);
+    SbMatrix toEye;
+    toEye.setTranslate(-m_camera->position.getValue());
+    SbMatrix turn;
+    turn.setRotate(m_camera->orientation.getValue().inverse());
+    SbXfBox3f box = action.getXfBoundingBox();
+    box.transform(toEye.multRight(turn));
+    const SbBox3f seen = box.project();
+    const float farthest = -seen.getMin()[2] * (1 + slack);
+    if (seen.isEmpty() || !std::isfinite(farthest) || farthest <= 0)
+        return;
+    float nearest = -seen.getMax()[2] * (1 - slack);
+    if (m_camera->isOfType(SoPerspectiveCamera::getClassTypeId()))
+        nearest = std::max(nearest, farthest / depthRange);
+    m_camera->enableNotify(FALSE); // this is part of drawing, no reason to draw again
+    m_camera->nearDistance = nearest;
+    m_camera->farDistance = farthest;
+    m_camera->enableNotify(TRUE);
 }
 
 SbVec3f ViewCamera::direction() const

@@ -31,6 +31,9 @@ public:
     /// Keeps the direction and moves until everything below @p root is in sight.
     void viewAll(SoNode *root, const SbViewportRegion &viewport);
 
+    /// Puts the near and the far plane around everything below @p root; before each frame.
+    void clip(SoNode *root, const SbViewportRegion &viewport);
+
     /// Turns around the point looked at, by angles in radians: to the right and upwards.
     void orbit(float right, float up);
     /// Moves the picture by fractions of its shorter side.
@@ -45,7 +48,7 @@ private:
 
     std::shared_ptr<SoCamera> m_camera;
     std::shared_ptr<SoCamera> m_original;
-    SbVec3f m_up {0, 1, 0}; ///< what stays vertical in the picture: the axis nearest to the camera's own up
+    SbVec3f m_up{0, 1, 0}; ///< what stays vertical in the picture: the axis nearest to the camera's own up
 };
 
 #endif

@@ -14,7 +14,8 @@
 #include <cstdio>
 #include <memory>
 
-namespace {
+namespace
+{
 
 void complain(const QString &text)
 {
