@@ -13,6 +13,7 @@ class FieldWatch;
 class HbFieldEditorCommandManager;
 class QHBoxLayout;
 class QLabel;
+class QLineEdit;
 class QPushButton;
 class QSpacerItem;
 
@@ -81,6 +82,15 @@ protected Q_SLOTS:
 protected:
     /// The field set by setField(); null without one and after it died.
     SoField *editedField() const;
+
+    /// Commits on Return and on leaving the edit.
+    void commitOnReturn(QLineEdit *edit);
+    /// Commits at each change of the edit's text, also one made by refresh().
+    void commitOnChange(QLineEdit *edit);
+    /// Fills the edition area with one edit for texts of any length.
+    QLineEdit *addLineEdit();
+    /// Gives the edit layout the margin and the spacing of these names in the layout settings.
+    void setEditLayout(const char *marginKey, const char *spacingKey);
 
     QLabel *m_label;
     QPushButton *m_defaultButton;

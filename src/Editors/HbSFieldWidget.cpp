@@ -3,6 +3,7 @@
 
 #include <HbSFieldWidget.h>
 
+#include "EditorButton.h"
 #include "FieldEditorSettings.h"
 #include "support/FieldDefaults.h"
 #include "support/FieldWatch.h"
@@ -15,9 +16,12 @@
 
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
 
 #include <Inventor/fields/SoField.h>
+
+#include <limits>
 
 namespace
 {
@@ -36,18 +40,6 @@ QSpacerItem *addSpacer(QHBoxLayout *layout)
     auto *const spacer = new QSpacerItem(0, 0, QSizePolicy::Minimum, QSizePolicy::Minimum);
     layout->addItem(spacer);
     return spacer;
-}
-
-QPushButton *newButton(QWidget *parent, const QString &name, const QPixmap &icon)
-{
-    auto *const button = new QPushButton(parent);
-    button->setObjectName(name);
-    button->setMaximumSize(nscsettings_fieldEditor(QStringLiteral("buttonWidth")),
-                           nscsettings_fieldEditor(QStringLiteral("buttonHeight")));
-    button->setIcon(icon);
-    button->setAutoDefault(false); // in a dialog, Return in an edit would press it
-    button->setFocusPolicy(Qt::NoFocus);
-    return button;
 }
 } // namespace
 
@@ -160,10 +152,12 @@ void HbSFieldWidget::buildLayout()
     // named like the outer layout, deliberately
     m_buttonLayout = newLayout(QStringLiteral("SFButtonLayoutMargin"), QStringLiteral("SFButtonLayoutSpacing"),
                                QStringLiteral("SFieldLayout"));
-    m_defaultButton = newButton(this, QStringLiteral("m_defaultButton"), m_defaultIcon);
+    m_defaultButton = newEditorButton(this, QStringLiteral("m_defaultButton"), m_defaultIcon);
     m_buttonLayout->addWidget(m_defaultButton);
-    m_ignoreButton = newButton(this, QStringLiteral("m_ignoreButton"), m_ignoreIcon);
+    m_ignoreButton = newEditorButton(this, QStringLiteral("m_ignoreButton"), m_ignoreIcon);
     m_ignoreButton->setCheckable(true);
+    for (QPushButton *const button : {m_defaultButton, m_ignoreButton})
+        button->setFocusPolicy(Qt::NoFocus);
     m_buttonLayout->addWidget(m_ignoreButton);
 
     m_editionAreaLayout->addLayout(m_buttonLayout);
@@ -190,6 +184,36 @@ void HbSFieldWidget::languageChange()
     m_ignoreButton->setToolTip(QStringLiteral("Ignore this field"));
     m_defaultButton->setAccessibleName(m_defaultButton->toolTip());
     m_ignoreButton->setAccessibleName(m_ignoreButton->toolTip());
+}
+
+void HbSFieldWidget::commitOnReturn(QLineEdit *edit)
+{
+    connect(edit, &QLineEdit::editingFinished, this, &HbSFieldWidget::setFocusLeaveEvent);
+    connect(edit, &QLineEdit::returnPressed, this, &HbSFieldWidget::setCommandValue);
+}
+
+void HbSFieldWidget::commitOnChange(QLineEdit *edit)
+{
+    connect(edit, &QLineEdit::editingFinished, this, &HbSFieldWidget::setFocusLeaveEvent);
+    connect(edit, &QLineEdit::textChanged, this, &HbSFieldWidget::setCommandValue);
+}
+
+QLineEdit *HbSFieldWidget::addLineEdit()
+{
+    auto *const edit = new QLineEdit(m_editionFrame);
+    edit->setObjectName(QStringLiteral("lineEdit"));
+    edit->setAlignment(Qt::AlignLeft);
+    edit->setMaxLength(std::numeric_limits<int>::max()); // QLineEdit itself would cut at 32767
+    edit->setAccessibleName(m_label->text());
+    m_editLayout->addWidget(edit, 1);
+    return edit;
+}
+
+void HbSFieldWidget::setEditLayout(const char *marginKey, const char *spacingKey)
+{
+    const int margin = nscsettings_fieldEditor(QLatin1String(marginKey));
+    m_editLayout->setContentsMargins(margin, margin, margin, margin);
+    m_editLayout->setSpacing(nscsettings_fieldEditor(QLatin1String(spacingKey)));
 }
 
 SoField *HbSFieldWidget::editedField() const

@@ -8,14 +8,17 @@
 #include <QString>
 
 #include <Inventor/SbString.h>
-#include <Inventor/fields/SoField.h>
+#include <Inventor/fields/SoSFString.h>
 
-/// Coin's texts to Qt's and back: strings are UTF-8.
+/// Coin's texts to Qt's and back: strings are UTF-8, those of old files Latin-1.
 namespace CoinText
 {
 inline QString toQString(const SbString &text)
 {
-    return QString::fromUtf8(text.getString(), text.getLength());
+    const QByteArray bytes = QByteArray::fromRawData(text.getString(), text.getLength());
+    const QString unicode = QString::fromUtf8(bytes);
+    const bool isBroken = unicode.contains(QChar::ReplacementCharacter) && !bytes.contains("\xEF\xBF\xBD");
+    return isBroken ? QString::fromLatin1(bytes) : unicode;
 }
 
 inline SbString toSbString(const QString &text)
@@ -26,6 +29,10 @@ inline SbString toSbString(const QString &text)
 /// A field's value in the field's own notation.
 inline QString ofField(SoField &field)
 {
+    if (field.isOfType(SoSFString::getClassTypeId())) { // Coin takes minutes for one of 10 MB
+        QString value = toQString(static_cast<SoSFString &>(field).getValue());
+        return QLatin1Char('"') + value.replace(QLatin1Char('"'), QLatin1String("\\\"")) + QLatin1Char('"');
+    }
     SbString text;
     field.get(text);
     return toQString(text);

@@ -3,6 +3,7 @@
 
 #include "Icons.h"
 
+#include "resources/edit.xpm"
 #include "resources/ignorefield.xpm"
 #include "resources/settodefault.xpm"
 
@@ -32,4 +33,10 @@ QPixmap Icons::ignoreField()
 {
     static QPixmapCache::Key key;
     return cached(&key, ignorefield_xpm);
+}
+
+QPixmap Icons::edit()
+{
+    static QPixmapCache::Key key;
+    return cached(&key, edit_xpm);
 }

@@ -11,6 +11,7 @@ namespace Icons
 {
 QPixmap setToDefault();
 QPixmap ignoreField();
+QPixmap edit();
 } // namespace Icons
 
 #endif
