@@ -26,7 +26,7 @@ class SoNode;
  * destroyed, and also when the node or field that it is registered for dies.
  *
  * The first base is no QObject, so QObject::findChildren<T>() must not be asked for HbEditors or a class
- * derived from it; ask for QFrame and qobject_cast the result.
+ * derived from it; ask for QFrame and dynamic_cast the result.
  */
 class HARBORAPI_EXPORT HbEditors : public HbNscPlugins, public QFrame
 {
@@ -68,7 +68,8 @@ public:
      * nothing matches, the editor it names is activated all the same. A null node matches nothing.
      *
      * The search may run beside registrations in other threads; the activation runs after the registry's
-     * lock is released and may delete the editor.
+     * lock is released and may delete the editor. Registering under a node or a field is for the thread that
+     * owns the scene: its end is watched from then on.
      */
     static bool getRegisteredEditor(SoNode *node, HbEditors *&editor);
 

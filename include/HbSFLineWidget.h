@@ -12,7 +12,7 @@ class QLineEdit;
  * Edits any field through its text in file notation; what does not parse is left to the field's parser.
  *
  * Built with a label it commits on Return and on leaving, without one at each change of the text. Without
- * a command manager only leaving the line writes; Return is then left to the parent.
+ * a command manager Return is left to the parent: then only leaving the line writes, and without a label nothing does.
  */
 class HARBORAPI_EXPORT HbSFLineWidget : public HbSFieldWidget
 {

@@ -89,6 +89,8 @@ protected:
     void commitOnChange(QLineEdit *edit);
     /// Fills the edition area with one edit for texts of any length.
     QLineEdit *addLineEdit();
+    /// Puts equal stretches on both sides of the edition frame.
+    void centreEditionFrame();
     /// Gives the edit layout the margin and the spacing of these names in the layout settings.
     void setEditLayout(const char *marginKey, const char *spacingKey);
 

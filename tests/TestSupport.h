@@ -27,11 +27,15 @@ inline QtMessageHandler previousHandler = nullptr;
 /// What every editor without a command manager says when it is built.
 constexpr auto missingDefaultSlot = "No such slot HbSFieldWidget::setDefaultValue\\(\\)|\\((sender|receiver) name:";
 
+/// What every editor with a line of text says when it is built without one.
+constexpr auto missingApplySlot = "No such slot HbSFieldWidget::applyChanges\\(\\)";
+
 /// Returns whether the complaint is to be told.
 inline bool record(const QString &text)
 {
-    if (text.contains(QLatin1String("XDG_RUNTIME_DIR")) || text.contains(QLatin1String("propagateSizeHints")))
-        return false;
+    for (const char *const ofThePlatform : {"XDG_RUNTIME_DIR", "propagateSizeHints", "This plugin does not support"})
+        if (text.contains(QLatin1String(ofThePlatform)))
+            return false;
     for (const QRegularExpression &pattern : expected) {
         if (pattern.match(text).hasMatch())
             return false;

@@ -58,13 +58,7 @@ HbPopupWidget::HbPopupWidget(HbFieldEditorCommandManager *manager, int rows, int
     buildPopup(rows);
 }
 
-HbPopupWidget::~HbPopupWidget()
-{
-    // an edit that has the focus would report to an owner that is half gone
-    for (QLineEdit *const edit : m_edits)
-        if (edit)
-            edit->disconnect(this);
-}
+HbPopupWidget::~HbPopupWidget() = default;
 
 void HbPopupWidget::buildPopup(int rows)
 {

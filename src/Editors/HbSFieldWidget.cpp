@@ -75,7 +75,13 @@ HbSFieldWidget::HbSFieldWidget(const char *label, HbFieldEditorCommandManager *m
 {
 }
 
-HbSFieldWidget::~HbSFieldWidget() = default;
+HbSFieldWidget::~HbSFieldWidget()
+{
+    // a control that has the focus would report to an owner that is half gone
+    const auto children = findChildren<QObject *>();
+    for (QObject *const child : children)
+        child->disconnect(this);
+}
 
 void HbSFieldWidget::buildSlider(SFFrameType frameType)
 {
@@ -207,6 +213,17 @@ QLineEdit *HbSFieldWidget::addLineEdit()
     edit->setAccessibleName(m_label->text());
     m_editLayout->addWidget(edit, 1);
     return edit;
+}
+
+void HbSFieldWidget::centreEditionFrame()
+{
+    for (QSpacerItem *const spacer : {m_labelSpacer, m_buttonSpacer})
+        spacer->changeSize(0, 0, QSizePolicy::Expanding, QSizePolicy::Minimum);
+    // only in one layout do two stretches become equally wide
+    m_editionAreaLayout->removeItem(m_buttonSpacer);
+    m_editionAreaLayout->removeItem(m_buttonLayout);
+    m_fieldLayout->addItem(m_buttonSpacer);
+    m_fieldLayout->addLayout(m_buttonLayout);
 }
 
 void HbSFieldWidget::setEditLayout(const char *marginKey, const char *spacingKey)

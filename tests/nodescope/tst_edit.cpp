@@ -64,12 +64,16 @@ private Q_SLOTS:
     void noChangeLeavesNothing();
     void drag();
     void clickOnHandle();
+    void undoneInDrag_data();
+    void undoneInDrag();
+    void anotherNodeInDrag();
     void sliderSteps_data();
     void sliderSteps();
     void stepsMergeUntilFocusLeaves();
     void buttons();
     void refusals_data();
     void refusals();
+    void silentDisconnection();
     void parserRefuses();
     void unfinishedText();
     void undoKeyGoesToApplication();
@@ -118,13 +122,13 @@ void EditTest::undoIsExact()
     SoCone *const cone = *m_cone;
     cone->height = value;
     QApplication::processEvents();
-    typeHeight("0");
-    QCOMPARE(bitsOf(cone->height.getValue()), 0u);
+    typeHeight("1");
+    QCOMPARE(bitsOf(cone->height.getValue()), bitsOf(1));
     QCOMPARE(m_stack->count(), 1);
     m_stack->undo();
     QCOMPARE(bitsOf(cone->height.getValue()), bitsOf(value));
     m_stack->redo();
-    QCOMPARE(bitsOf(cone->height.getValue()), 0u);
+    QCOMPARE(bitsOf(cone->height.getValue()), bitsOf(1));
 }
 
 void EditTest::noChangeLeavesNothing()
@@ -180,6 +184,68 @@ void EditTest::clickOnHandle()
     QTest::mouseRelease(slider(), Qt::LeftButton, {}, start);
     QCOMPARE(bitsOf(cone->height.getValue()), bitsOf(2.3456789f));
     QCOMPARE(m_stack->count(), 0);
+}
+
+void EditTest::undoneInDrag_data()
+{
+    QTest::addColumn<bool>("sameField");
+    QTest::addColumn<bool>("movesOn");
+    QTest::addColumn<bool>("live");
+    for (const int bits : {0, 1, 2, 3, 4, 5, 6, 7})
+        QTest::addRow("%s field, %s, %s", bits & 1 ? "same" : "other", bits & 2 ? "moves on" : "let go at once",
+                      bits & 4 ? "live" : "box off")
+            << bool(bits & 1) << bool(bits & 2) << bool(bits & 4);
+}
+
+void EditTest::undoneInDrag()
+{
+    QFETCH(bool, sameField);
+    QFETCH(bool, movesOn);
+    QFETCH(bool, live);
+    SoCone *const cone = *m_cone;
+    cone->height = 2.3456789f;
+    QApplication::processEvents();
+    control<QCheckBox>("Cone.height")->setChecked(live);
+    const quint32 before = bitsOf(2.3456789f);
+    QLineEdit *const edited = sameField ? height() : control<QLineEdit>("Cone.bottomRadius");
+    retype(edited, "3");
+    QTest::keyClick(edited, Qt::Key_Return);
+    QPoint at = handleOf(slider());
+    QTest::mousePress(slider(), Qt::LeftButton, {}, at);
+    dragTo(slider(), at += QPoint(20, 0));
+    m_stack->undo();
+    if (movesOn)
+        dragTo(slider(), at += QPoint(20, 0));
+    QTest::mouseRelease(slider(), Qt::LeftButton, {}, at);
+
+    const bool isStep = !sameField || movesOn;
+    QCOMPARE(bitsOf(cone->height.getValue()) != before, isStep);
+    QCOMPARE(m_stack->canUndo(), isStep);
+    QCOMPARE(m_stack->canRedo(), !isStep);
+    m_stack->undo();
+    QCOMPARE(bitsOf(cone->height.getValue()), before);
+}
+
+void EditTest::anotherNodeInDrag()
+{
+    SoCone *const cone = *m_cone;
+    const Ref<SoCone> second;
+    const QPointer<QSlider> held = slider();
+    const QPoint at = handleOf(held);
+    QTest::mousePress(held, Qt::LeftButton, {}, at);
+    dragTo(held, at + QPoint(20, 0));
+    m_panel->setNode(second);
+    m_cone.reset(); // only the undo step keeps it
+    dragTo(held, at + QPoint(40, 0));
+    m_panel->setNode(nullptr);
+    QTest::mouseRelease(held, Qt::LeftButton, {}, at + QPoint(40, 0));
+    QCOMPARE(m_stack->count(), 1);
+    QVERIFY(cone->height.getValue() > 2);
+    QCOMPARE(cone->getRefCount(), 1);
+    QVERIFY(second->height.isDefault());
+    QVERIFY(!OwnEdit::isRunning());
+    m_stack->undo();
+    QVERIFY(cone->height.isDefault());
 }
 
 void EditTest::sliderSteps_data()
@@ -287,6 +353,21 @@ void EditTest::refusals()
     QCOMPARE(m_stack->count(), 0);
     QCOMPARE(cone->height.getValue(), 2.5f);
     QCOMPARE(height()->text(), QString("2.5"));
+}
+
+void EditTest::silentDisconnection()
+{
+    SoCone *const cone = *m_cone;
+    cone->height.connectFrom(&cone->bottomRadius);
+    QApplication::processEvents();
+    QWidget *const row = height()->parentWidget()->parentWidget();
+    QVERIFY(row->accessibleDescription().contains("Cone.bottomRadius"));
+    cone->height.disconnect(); // of which Coin tells nobody
+    height()->setFocus();
+    QCOMPARE(row->accessibleDescription(), QString());
+    typeHeight("7");
+    QCOMPARE(cone->height.getValue(), 7.0f);
+    QCOMPARE(m_messages, QStringList());
 }
 
 void EditTest::parserRefuses()

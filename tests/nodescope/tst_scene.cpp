@@ -12,6 +12,7 @@
 #include <QAction>
 #include <QCheckBox>
 #include <QLineEdit>
+#include <QProcess>
 #include <QTemporaryDir>
 
 #include <Inventor/nodes/SoCone.h>
@@ -23,6 +24,7 @@
 namespace
 {
 const QString bundledScene = QStringLiteral(HARBOR_SOURCE_DIR "/examples/scenes/harbour.iv");
+const QString windmillScene = QStringLiteral(HARBOR_SOURCE_DIR "/examples/scenes/windmill.iv");
 
 QByteArray contentOf(const QString &fileName)
 {
@@ -54,19 +56,26 @@ private Q_SLOTS:
     void savedAsItWasOpened_data()
     {
         QTest::addColumn<QByteArray>("content");
+        QTest::addColumn<QByteArray>("kept");
         QTest::newRow("several shared top-level nodes")
-            << QByteArray("DEF A Cone { height 0.1 }\nSeparator { USE A }\nUSE A\n");
+            << QByteArray("DEF A Cone { height 0.1 }\nSeparator { USE A }\nUSE A\n") << QByteArray("USE A");
         QTest::newRow("unknown node") << QByteArray(
-            "Group { Evil { fields [ SFFloat power ] power 0.3 } EvilGroup { fields [ ] Cube { } } }\n");
-        QTest::newRow("names and quotes") << QByteArray("Info { string \"a \\\"b\\\" \303\244\" }\n");
-        QTest::newRow("engine") << QByteArray("Cone { height 1 = Calculator { a 2 expression \"oa = a*3\" } . oa }\n");
-        QTest::newRow("extremes") << QByteArray("Cone { height 3.4028235e+38 bottomRadius 1e-45 }\n");
-        QTest::newRow("empty") << QByteArray("\n");
+            "Group { Evil { fields [ SFFloat power ] power 0.3 } EvilGroup { fields [ ] Cube { } } }\n")
+                                      << QByteArray("power 0.3");
+        QTest::newRow("child of an unknown node") << QByteArray("Evil { fields [ ] Cube { } }\n") << QByteArray("Cube");
+        QTest::newRow("names and quotes")
+            << QByteArray("Info { string \"a \\\"b\\\" \303\244\" }\n") << QByteArray("\"a \\\"b\\\" \303\244\"");
+        QTest::newRow("engine") << QByteArray("Cone { height 1 = Calculator { a 2 expression \"oa = a*3\" } . oa }\n")
+                                << QByteArray("oa = a*3");
+        QTest::newRow("extremes") << QByteArray("Cone { height 3.4028235e+38 bottomRadius 1e-45 }\n")
+                                  << QByteArray("3.4028235e+38");
+        QTest::newRow("empty") << QByteArray("\n") << QByteArray();
     }
 
     void savedAsItWasOpened()
     {
         QFETCH(QByteArray, content);
+        QFETCH(QByteArray, kept);
         const QString original = write(QStringLiteral("scene.iv"), "#Inventor V2.1 ascii\n\n" + content);
         const QString first = m_directory.filePath(QStringLiteral("first.iv"));
         const QString second = m_directory.filePath(QStringLiteral("second.iv"));
@@ -79,12 +88,32 @@ private Q_SLOTS:
         QCOMPARE(document.root()->getNumChildren(), topLevel); // no level was added
         QVERIFY(document.save(second, &messages));
         QCOMPARE(contentOf(second), contentOf(first));
+        QVERIFY2(contentOf(second).contains(kept), contentOf(second).constData());
         if (!content.contains("Evil")) // of which Coin tells that it does not know it
             QCOMPARE(messages, QStringList());
-        if (content.contains("Evil"))
-            QVERIFY(contentOf(second).contains("EvilGroup"));
-        if (content.contains("DEF A"))
-            QCOMPARE(contentOf(second).count("Cone"), 1); // still shared
+    }
+
+    void unknownTypesRunNoLibrary_data()
+    {
+        QTest::addColumn<QStringList>("options");
+        QTest::newRow("by itself") << QStringList();
+        QTest::newRow("asked for") << QStringList("--allow-node-libraries");
+    }
+
+    void unknownTypesRunNoLibrary()
+    {
+        QFETCH(QStringList, options);
+        QProcess nodescope;
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert("LD_DEBUG", "files"); // the loader tells each library that is asked for
+        nodescope.setProcessEnvironment(environment);
+        const QString picture = m_directory.filePath("picture.png");
+        nodescope.start(NODESCOPE, QStringList{"--screenshot", picture, windmillScene} + options);
+        QVERIFY(nodescope.waitForFinished());
+        QCOMPARE(nodescope.exitCode(), 0);
+        const QByteArray loaded = nodescope.readAllStandardError();
+        QVERIFY(loaded.contains("file=libCoin"));
+        QCOMPARE(loaded.contains("file=Windsock") || loaded.contains("file=libWindsock"), !options.isEmpty());
     }
 
     void formatIsKept_data()
@@ -132,6 +161,11 @@ private Q_SLOTS:
                                 << "line";
         QTest::newRow("no scene") << QByteArray("hello") << "bad.iv";
         QTest::newRow("empty") << QByteArray() << "empty";
+        QTest::newRow("contains itself") << QByteArray(
+            "#Inventor V2.1 ascii\nSeparator { DEF A Separator { Cube { } USE A } }")
+                                         << "itself";
+        QTest::newRow("too deep") << QByteArray("#Inventor V2.1 ascii\n") + QByteArray("Separator { ").repeated(20000)
+                                  << "levels";
     }
 
     void unreadableFilesLeaveTheSceneOpen()

@@ -3,11 +3,15 @@
 
 #include "EditManager.h"
 
+#include "EditorTable.h"
 #include "FieldCommand.h"
 #include "FieldText.h"
+#include "UntouchedParts.h"
 
 #include <HbFieldEditors.h>
+#include <HbSFBitMaskWidget.h>
 
+#include <QCheckBox>
 #include <QEvent>
 #include <QLineEdit>
 #include <QScopedValueRollback>
@@ -18,6 +22,8 @@
 #include <Inventor/fields/SoFieldContainer.h>
 #include <Inventor/fields/SoMField.h>
 #include <Inventor/sensors/SoFieldSensor.h>
+
+#include <utility>
 
 namespace
 {
@@ -50,6 +56,15 @@ void EditManager::setEditor(HbFieldEditors *editor)
     m_editor = editor;
     m_slider = editor->findChild<QSlider *>();
     m_edit = editor->findChild<QLineEdit *>();
+    m_line = editor->findChild<QLineEdit *>(QStringLiteral("lineEdit"));
+    if (m_line && !m_line->isEnabled())
+        m_line = nullptr;
+    m_isMask = dynamic_cast<HbSFBitMaskWidget *>(editor);
+    if (m_isMask) {
+        const auto boxes = editor->findChildren<QCheckBox *>();
+        for (const QCheckBox *const box : boxes) // writes the field itself, in a connection made earlier
+            connect(box, &QCheckBox::clicked, this, &EditManager::maskClicked);
+    }
     if (!m_slider)
         return;
     // connected after the library's own connections: its slots have run when these do, but for the first
@@ -60,8 +75,8 @@ void EditManager::setEditor(HbFieldEditors *editor)
     connect(m_slider, &QSlider::valueChanged, this, &EditManager::sliderStepped);
     connect(m_slider, &QSlider::sliderPressed, this, &EditManager::hold);
     connect(m_stack, &QUndoStack::indexChanged, this, [this] {
-        if (isHeld()) // undone in the middle of a drag: the drag starts from here
-            remember();
+        if (isHeld() && m_dragged && m_field && !m_dragged->isSameValue(FieldSnapshot(*m_field)))
+            remember(); // undone in the middle of a drag: the drag starts from here
     });
     m_slider->installEventFilter(this);
 }
@@ -78,7 +93,12 @@ void EditManager::setField(SoField *field)
 void EditManager::refresh()
 {
     const QScopedValueRollback<bool> guard(m_refreshing, true);
+    // a mask's boxes stay as they were clicked: bits of several boxes would come back with any of them
+    if (m_field && !(m_isMask && m_before && m_before->isSameValue(FieldSnapshot(*m_field))))
+        EditorTable::renew(*m_editor, *m_field);
     m_editor->refresh();
+    if (m_line)
+        m_shownLine = m_line->text();
     remember();
 }
 
@@ -110,11 +130,12 @@ void EditManager::edit(const FieldSnapshot &before, const std::function<void()> 
     if (refuse(before))
         return;
     const OwnEdit own;
+    const std::vector<FieldState> images = imagesBeside(*m_field);
     const WriteWatch watch(*m_field);
     write();
     const bool isAccepted = watch.isWritten();
     if (isAccepted)
-        record(before, FieldCommand::noSeries);
+        record(before, FieldCommand::noSeries, images);
     else
         before.restore(*m_field);
     refresh(); // at once, so that an edit that reports twice is heard once
@@ -122,13 +143,16 @@ void EditManager::edit(const FieldSnapshot &before, const std::function<void()> 
         Q_EMIT message(tr("%1 does not accept what was entered.").arg(FieldText::qualifiedName(*m_field)));
 }
 
-void EditManager::record(const FieldSnapshot &before, int series)
+void EditManager::record(const FieldSnapshot &before, int series, const std::vector<FieldState> &images)
 {
     const FieldSnapshot after(*m_field);
-    if (after.isSameValue(before))
+    if (after.isSameValue(before)) {
         before.restore(*m_field); // writing the same value again has cleared the default flag
-    else
-        m_stack->push(new FieldCommand(*m_field, before, after, series));
+        return;
+    }
+    auto command = std::make_unique<FieldCommand>(*m_field, before, after, series);
+    command->setImagesBefore(images);
+    m_stack->push(command.release());
 }
 
 void EditManager::sfieldSetValue(SbString *previousData)
@@ -144,7 +168,14 @@ void EditManager::sfieldSetValue(SbString *previousData)
         refresh();
         return;
     }
-    edit(before, [this] { m_editor->applyChanges(); });
+    if (m_line && m_line->text() == m_shownLine) {
+        refresh(); // its text may tell less than the value
+        return;
+    }
+    edit(before, [this, &before] {
+        m_editor->applyChanges();
+        keepUntouchedParts(*m_editor, before.value(), *m_field);
+    });
 }
 
 void EditManager::fieldSetDefaultValue()
@@ -216,10 +247,11 @@ void EditManager::mfieldSetValue(int row, const void *data)
 
 void EditManager::remember()
 {
-    if (!m_slider || !m_field)
+    if (!m_field || !(m_slider || m_isMask))
         return;
-    m_before.emplace(*m_field);
-    m_positionBefore = m_slider->value();
+    m_dragged = m_before.emplace(*m_field);
+    if (m_slider)
+        m_positionBefore = m_slider->value();
 }
 
 void EditManager::hold()
@@ -242,6 +274,8 @@ void EditManager::letGo()
 /// A step that the editor has written, or shows only: it does not write while the slider's box is off.
 void EditManager::sliderStepped()
 {
+    if (isHeld() && m_field)
+        m_dragged.emplace(*m_field);
     const bool isTyped = m_edit && m_edit->isModified(); // a typed text moves the slider before it is committed
     if (isHeld() || isTyped || !isListening() || !m_before || m_slider->value() == m_positionBefore)
         return;
@@ -250,6 +284,18 @@ void EditManager::sliderStepped()
         return;
     m_editor->applyChanges();
     record(before, m_series);
+    remember();
+}
+
+/// The mask's editor has written the field, and tells no manager.
+void EditManager::maskClicked()
+{
+    if (!isListening() || !m_before)
+        return;
+    const FieldSnapshot before = *std::exchange(m_before, std::nullopt);
+    if (refuse(before))
+        return;
+    record(before, FieldCommand::noSeries);
     remember();
 }
 

@@ -4,7 +4,7 @@
 #ifndef EDITMANAGER_H
 #define EDITMANAGER_H
 
-#include "FieldSnapshot.h"
+#include "FieldCommand.h"
 #include "OwnEdit.h"
 
 #include <HbFieldEditorCommandManager.h>
@@ -23,7 +23,8 @@ class QUndoStack;
  *
  * One step per committed text, click or slider drag; the steps of a slider by key, wheel or a click in its
  * groove, which the editor writes without a command, make one step together while the slider has the focus.
- * What changes nothing leaves no step and every bit of the value as it was.
+ * What changes nothing leaves no step and every bit of the value as it was; so does, in a value of several numbers,
+ * a number that was not edited.
  */
 class EditManager : public HbFieldEditorCommandManager
 {
@@ -63,20 +64,25 @@ private:
     bool refuse(const FieldSnapshot &before);
     void edit(const FieldSnapshot &before, const std::function<void()> &write);
     void edit(const std::function<void()> &write);
-    void record(const FieldSnapshot &before, int series);
+    void record(const FieldSnapshot &before, int series, const std::vector<FieldState> &images = {});
 
     void remember();
     void hold();
     void letGo();
     void sliderStepped();
+    void maskClicked();
 
     QPointer<QUndoStack> m_stack;
     HbFieldEditors *m_editor = nullptr;
     SoField *m_field = nullptr;
     QPointer<QSlider> m_slider;
     QPointer<QLineEdit> m_edit;
+    QPointer<QLineEdit> m_line; ///< shows the whole value and can be typed in
+    QString m_shownLine;
     std::optional<FieldSnapshot> m_before; ///< from before the slider's next move
+    std::optional<FieldSnapshot> m_dragged; ///< what a held slider left in the field
     int m_positionBefore = 0;
+    bool m_isMask = false; ///< the editor writes by itself
     int m_series;
     std::optional<OwnEdit> m_hold; ///< while a mouse button holds the slider, whose moves are written at once
     bool m_refreshing = false;

@@ -3,39 +3,75 @@
 
 #include "EditorTable.h"
 
+#include "FieldLength.h"
 #include "ValueText.h"
 
 #include <HbIntSlider.h>
 #include <HbRangeSettings.h>
 #include <HbRealSlider.h>
+#include <HbSFBitMaskWidget.h>
 #include <HbSFBoolWidget.h>
+#include <HbSFBox3sWidget.h>
+#include <HbSFColorWidget.h>
+#include <HbSFEnumWidget.h>
 #include <HbSFFloatWidget.h>
+#include <HbSFImageWidget.h>
 #include <HbSFInt32Widget.h>
+#include <HbSFLineWidget.h>
+#include <HbSFMatrixWidget.h>
+#include <HbSFNameWidget.h>
+#include <HbSFPlaneWidget.h>
+#include <HbSFRotationWidget.h>
 #include <HbSFShortWidget.h>
+#include <HbSFStringWidget.h>
 #include <HbSFUInt32Widget.h>
 #include <HbSFUShortWidget.h>
+#include <HbSFVec2fWidget.h>
+#include <HbSFVec2sWidget.h>
+#include <HbSFVec3fWidget.h>
+#include <HbSFVec4fWidget.h>
 #include <HbUIntSlider.h>
+
+#include <QCheckBox>
+#include <QComboBox>
 
 #include <Inventor/fields/SoFieldContainer.h>
 #include <Inventor/fields/SoFields.h>
 
 #include <algorithm>
+#include <vector>
 
 namespace
 {
-template <class Widget> HbFieldEditors *ranged(const char *label, const HbRangeComponent &range,
-                                               HbFieldEditorCommandManager *manager, QWidget *parent)
+using Manager = HbFieldEditorCommandManager;
+
+template <class Widget>
+HbFieldEditors *ranged(SoField &, const char *label, const HbRangeComponent &range, Manager *manager, QWidget *parent)
 {
     return new Widget(label, range, manager, parent, nullptr, {});
 }
 
-template <class Widget> HbFieldEditors *plain(const char *label, const HbRangeComponent &,
-                                              HbFieldEditorCommandManager *manager, QWidget *parent)
+template <class Widget>
+HbFieldEditors *plain(SoField &, const char *label, const HbRangeComponent &, Manager *manager, QWidget *parent)
 {
     return new Widget(label, manager, parent, nullptr, {});
 }
 
-HbFieldEditors *text(const char *label, const HbRangeComponent &, HbFieldEditorCommandManager *, QWidget *parent)
+HbFieldEditors *choice(SoField &field, const char *label, const HbRangeComponent &, Manager *manager, QWidget *parent)
+{
+    const auto &enumeration = static_cast<const SoSFEnum &>(field);
+    std::vector<SbName> names(static_cast<std::size_t>(enumeration.getNumEnums()));
+    for (std::size_t i = 0; i < names.size(); ++i)
+        enumeration.getEnum(static_cast<int>(i), names[i]);
+    return new HbSFEnumWidget(label, manager, static_cast<int>(names.size()), names.data(), parent, nullptr, {});
+}
+
+HbFieldEditors *bits(SoField &field, const char *label, const HbRangeComponent &, Manager *manager, QWidget *parent)
+{
+    return new HbSFBitMaskWidget(&field, label, manager, parent, nullptr, {});
+}
+
+HbFieldEditors *text(SoField &, const char *label, const HbRangeComponent &, Manager *, QWidget *parent)
 {
     return new ValueText(label, parent);
 }
@@ -45,14 +81,40 @@ constexpr char integerRow[] = "intField";
 
 // A fixed range would empty the slider of an unsigned number.
 constexpr EditorKind kinds[] = {
+    {SoSFBitMask::getClassTypeId, bits, nullptr, false},
+    {SoSFBool::getClassTypeId, plain<HbSFBoolWidget>, nullptr, false},
+    {SoSFBox3s::getClassTypeId, plain<HbSFBox3sWidget>, nullptr, false},
+    {SoSFColor::getClassTypeId, plain<HbSFColorWidget>, nullptr, false},
+    {SoSFEnum::getClassTypeId, choice, nullptr, false},
     {SoSFFloat::getClassTypeId, ranged<HbSFFloatWidget>, realRow, true},
+    {SoSFImage::getClassTypeId, plain<HbSFImageWidget>, nullptr, false},
     {SoSFInt32::getClassTypeId, ranged<HbSFInt32Widget>, integerRow, true},
+    {SoSFMatrix::getClassTypeId, plain<HbSFMatrixWidget>, nullptr, false},
+    {SoSFName::getClassTypeId, plain<HbSFNameWidget>, nullptr, false},
+    {SoSFPlane::getClassTypeId, plain<HbSFPlaneWidget>, nullptr, false},
+    {SoSFRotation::getClassTypeId, plain<HbSFRotationWidget>, nullptr, false},
     {SoSFShort::getClassTypeId, ranged<HbSFShortWidget>, integerRow, true},
+    {SoSFString::getClassTypeId, plain<HbSFStringWidget>, nullptr, false},
     {SoSFUInt32::getClassTypeId, ranged<HbSFUInt32Widget>, integerRow, false},
     {SoSFUShort::getClassTypeId, ranged<HbSFUShortWidget>, integerRow, false},
-    {SoSFBool::getClassTypeId, plain<HbSFBoolWidget>, nullptr, false},
+    {SoSFVec2f::getClassTypeId, plain<HbSFVec2fWidget>, nullptr, false},
+    {SoSFVec2s::getClassTypeId, plain<HbSFVec2sWidget>, nullptr, false},
+    {SoSFVec3f::getClassTypeId, plain<HbSFVec3fWidget>, nullptr, false},
+    {SoSFVec4f::getClassTypeId, plain<HbSFVec4fWidget>, nullptr, false},
 };
-constexpr EditorKind fallback = {nullptr, text, nullptr, false};
+constexpr EditorKind anySingleValue = {nullptr, plain<HbSFLineWidget>, nullptr, false};
+constexpr EditorKind tooLong = {nullptr, text, nullptr, false};
+
+bool intersects(const SoSFEnum &mask, const QString &wanted)
+{
+    for (int i = 0; i < mask.getNumEnums(); ++i) {
+        SbName name;
+        const int value = mask.getEnum(i, name);
+        if (wanted == QLatin1String(name.getString()))
+            return value & mask.getValue();
+    }
+    return false;
+}
 } // namespace
 
 const EditorKind &EditorTable::kindFor(const SoField &field)
@@ -60,7 +122,24 @@ const EditorKind &EditorTable::kindFor(const SoField &field)
     const auto *const found = std::find_if(std::begin(kinds), std::end(kinds), [&](const EditorKind &kind) {
         return kind.fieldType() == field.getTypeId();
     });
-    return found == std::end(kinds) ? fallback : *found;
+    if (found != std::end(kinds))
+        return *found;
+    const bool fitsALine = field.isOfType(SoSField::getClassTypeId()) && !isLong(field);
+    return fitsALine ? anySingleValue : tooLong;
+}
+
+QStringList EditorTable::choices(const SoField &field)
+{
+    QStringList names;
+    if (!field.isOfType(SoSFEnum::getClassTypeId()))
+        return names;
+    const auto &enumeration = static_cast<const SoSFEnum &>(field);
+    for (int i = 0; i < enumeration.getNumEnums(); ++i) {
+        SbName name;
+        enumeration.getEnum(i, name);
+        names += QString::fromLatin1(name.getString());
+    }
+    return names;
 }
 
 HbRangeComponent EditorTable::rangeFor(const EditorKind &kind, const SoField &field)
@@ -90,5 +169,18 @@ void EditorTable::resetRange(HbFieldEditors &editor, const HbRangeComponent &ran
     } else if (auto *const natural = dynamic_cast<HbUIntSlider *>(slider)) {
         natural->setValidLimits(static_cast<unsigned>(qMax(range.iMin, 0)), static_cast<unsigned>(qMax(range.iMax, 0)),
                                 range.boundFixed);
+    }
+}
+
+void EditorTable::renew(HbFieldEditors &editor, const SoField &field)
+{
+    const QStringList names = choices(field);
+    if (auto *const box = editor.findChild<QComboBox *>(); box && box->count() == names.size()) {
+        for (int i = 0; i < names.size(); ++i)
+            box->setItemText(i, names[i]);
+    } else if (dynamic_cast<HbSFBitMaskWidget *>(&editor)) {
+        const auto boxes = editor.findChildren<QCheckBox *>();
+        for (QCheckBox *const bit : boxes)
+            bit->setChecked(intersects(static_cast<const SoSFEnum &>(field), bit->text()));
     }
 }

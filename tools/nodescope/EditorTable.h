@@ -4,6 +4,8 @@
 #ifndef EDITORTABLE_H
 #define EDITORTABLE_H
 
+#include <QStringList>
+
 #include <Inventor/SoType.h>
 
 class HbFieldEditorCommandManager;
@@ -15,8 +17,8 @@ class SoField;
 /// The editor for fields of one type.
 struct EditorKind {
     SoType (*fieldType)(); ///< null for the kind that shows any field
-    HbFieldEditors *(*create)(const char *label, const HbRangeComponent &range, HbFieldEditorCommandManager *manager,
-                              QWidget *parent);
+    HbFieldEditors *(*create)(SoField &field, const char *label, const HbRangeComponent &range,
+                              HbFieldEditorCommandManager *manager, QWidget *parent);
     const char *rangeRow; ///< the row of "DefaultNode" that gives the range of fields without a range of their own
     bool canFixRange;
 };
@@ -28,8 +30,15 @@ const EditorKind &kindFor(const SoField &field);
 
 HbRangeComponent rangeFor(const EditorKind &kind, const SoField &field);
 
+/// The names that an editor for @p field offers; none where it offers no choice.
+QStringList choices(const SoField &field);
+
 /// Narrows the sliders of an editor that earlier values have widened.
 void resetRange(HbFieldEditors &editor, const HbRangeComponent &range);
+
+/// Brings up to date what an editor took from its field when it was built: names taken over by a value that
+/// has none, and the bits of a mask. To be called before each refresh.
+void renew(HbFieldEditors &editor, const SoField &field);
 } // namespace EditorTable
 
 #endif

@@ -10,8 +10,25 @@
 
 #include <Inventor/fields/SoField.h>
 #include <Inventor/fields/SoFieldContainer.h>
+#include <Inventor/fields/SoSFImage.h>
+#include <Inventor/fields/SoSFImage3.h>
+#include <Inventor/lists/SoFieldList.h>
 
 #include <utility>
+
+std::vector<FieldState> imagesBeside(const SoField &field)
+{
+    std::vector<FieldState> images;
+    SoFieldList all;
+    const int count = field.getContainer() ? field.getContainer()->getFields(all) : 0;
+    for (int i = 0; i < count; ++i) {
+        const bool isImage
+            = all[i]->isOfType(SoSFImage::getClassTypeId()) || all[i]->isOfType(SoSFImage3::getClassTypeId());
+        if (isImage && all[i] != &field)
+            images.push_back({all[i], FieldSnapshot(*all[i])});
+    }
+    return images;
+}
 
 FieldCommand::FieldCommand(SoField &field, const FieldSnapshot &before, const FieldSnapshot &after, int series)
     : m_container(coinRef(field.getContainer())), m_field(field), m_before(before), m_after(after), m_series(series)
@@ -25,15 +42,36 @@ int FieldCommand::newSeries()
     return ++last;
 }
 
+void FieldCommand::setImagesBefore(std::vector<FieldState> images)
+{
+    for (FieldState &image : images) {
+        const FieldSnapshot now(*image.field);
+        if (now == image.state)
+            continue;
+        m_imagesAfter.push_back({image.field, now});
+        m_imagesBefore.push_back(std::move(image));
+    }
+}
+
 void FieldCommand::undo()
 {
-    m_before.restore(m_field);
+    restore(m_before, m_imagesBefore);
+}
+
+/// The values first and then, once more, what they do to each other's flags.
+void FieldCommand::restore(const FieldSnapshot &state, const std::vector<FieldState> &images)
+{
+    for (int round = 0; round < (images.empty() ? 1 : 2); ++round) {
+        state.restore(m_field);
+        for (const FieldState &image : images)
+            image.state.restore(*image.field);
+    }
 }
 
 void FieldCommand::redo()
 {
     if (!std::exchange(m_done, false))
-        m_after.restore(m_field);
+        restore(m_after, m_imagesAfter);
 }
 
 bool FieldCommand::mergeWith(const QUndoCommand *next)

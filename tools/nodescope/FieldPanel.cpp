@@ -6,6 +6,7 @@
 #include "CoinRef.h"
 #include "FieldObserver.h"
 #include "FieldRow.h"
+#include "FieldText.h"
 
 #include <QApplication>
 #include <QLabel>
@@ -135,7 +136,7 @@ void FieldPanel::showTitle()
         m_title->setText(tr("No node selected"));
         return;
     }
-    QString title = QString::fromLatin1(m_node->getTypeId().getName().getString());
+    QString title = FieldText::typeName(*m_node);
     if (const SbName name = m_node->getName(); name.getLength() > 0)
         title += QLatin1Char(' ') + QString::fromLatin1(name.getString());
     m_title->setText(m_rows.empty() ? tr("%1 has no fields").arg(title) : title);
@@ -147,11 +148,23 @@ void FieldPanel::showFocus(const QWidget *focused)
         row->setFocused(focused && row->widget()->isAncestorOf(focused));
 }
 
-void FieldPanel::followField(const SoField *field)
+QWidget *FieldPanel::editorOf(const QString &fieldName) const
+{
+    const SoField *const field = m_node ? m_node->getField(fieldName.toLatin1().constData()) : nullptr;
+    const FieldRow *const row = field ? rowOf(field) : nullptr;
+    return row ? row->widget() : nullptr;
+}
+
+FieldRow *FieldPanel::rowOf(const SoField *field) const
 {
     const auto row = std::find_if(m_rows.begin(), m_rows.end(), [=](const FieldRow *r) { return r->field() == field; });
-    if (row != m_rows.end())
-        (*row)->follow();
+    return row != m_rows.end() ? *row : nullptr;
+}
+
+void FieldPanel::followField(const SoField *field)
+{
+    if (FieldRow *const row = rowOf(field))
+        row->follow();
 }
 
 void FieldPanel::followAll()

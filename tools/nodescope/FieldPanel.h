@@ -35,6 +35,8 @@ public:
     /// Shows @p node and keeps it alive while it is shown; null shows nothing. What was being typed for the
     /// node before is committed to it.
     void setNode(SoNode *node);
+    /// The editor of the shown node's field of this name; null where it has no such field.
+    QWidget *editorOf(const QString &fieldName) const;
 
 Q_SIGNALS:
     /// Something the user should know, in one sentence: why an edit was refused.
@@ -47,6 +49,7 @@ private:
     void alignLabels();
     void showTitle();
     void showFocus(const QWidget *focused);
+    FieldRow *rowOf(const SoField *field) const;
     void followField(const SoField *field);
     void followAll();
 

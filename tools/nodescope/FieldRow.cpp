@@ -10,10 +10,12 @@
 #include <HbFieldEditors.h>
 #include <HbRangeComponent.h>
 
+#include <QCoreApplication>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QSlider>
+#include <QSpinBox>
 
 #include <Inventor/fields/SoField.h>
 #include <Inventor/fields/SoFieldContainer.h>
@@ -34,17 +36,26 @@ SbName nameOf(const SoField &field)
 
 FieldRow::FieldRow(SoField &field, QUndoStack *stack, QWidget *parent)
     : QObject(parent), m_field(&field), m_type(field.getTypeId()), m_name(nameOf(field)),
-      m_kind(EditorTable::kindFor(field)), m_manager(new EditManager(stack, this)),
-      m_editor(m_kind.create(m_name.getString(), EditorTable::rangeFor(m_kind, field), m_manager, parent)),
+      m_kind(EditorTable::kindFor(field)), m_choices(EditorTable::choices(field)),
+      m_manager(new EditManager(stack, this)),
+      m_editor(m_kind.create(field, m_name.getString(), EditorTable::rangeFor(m_kind, field), m_manager, parent)),
       m_label(m_editor->findChild<QLabel *>(QStringLiteral("m_label"))), m_edits(m_editor->findChildren<QLineEdit *>())
 {
-    for (QLineEdit *const edit : std::as_const(m_edits))
-        edit->installEventFilter(this);
+    adoptControls();
     nameControls();
     connect(m_manager, &EditManager::message, this, &FieldRow::message);
     m_manager->setEditor(m_editor);
     m_manager->setField(m_field);
     refresh();
+}
+
+void FieldRow::adoptControls()
+{
+    for (QLineEdit *const edit : std::as_const(m_edits))
+        edit->installEventFilter(this);
+    const auto spins = m_editor->findChildren<QSpinBox *>();
+    for (QSpinBox *const spin : spins)
+        spin->setKeyboardTracking(false); // one step for a number, not for each of its digits
 }
 
 void FieldRow::nameControls()
@@ -67,7 +78,8 @@ QWidget *FieldRow::widget() const
 
 bool FieldRow::fits(const SoField &field) const
 {
-    return field.getTypeId() == m_type && nameOf(field) == m_name;
+    return field.getTypeId() == m_type && nameOf(field) == m_name && &EditorTable::kindFor(field) == &m_kind
+        && EditorTable::choices(field) == m_choices;
 }
 
 void FieldRow::setField(SoField &field)
@@ -80,12 +92,22 @@ void FieldRow::setField(SoField &field)
 
 void FieldRow::finish()
 {
-    if (auto *const slider = m_editor->findChild<QSlider *>(); slider && slider->isSliderDown())
-        slider->setSliderDown(false);
+    if (m_manager->isHeld()) { // the slider lets go, else the mouse would drag on in the next node's field
+        QMouseEvent release(QEvent::MouseButtonRelease, {}, {}, Qt::LeftButton, Qt::NoButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(m_editor->findChild<QSlider *>(), &release);
+    }
     for (QLineEdit *const edit : std::as_const(m_edits)) {
         if (edit->isModified() && edit->hasAcceptableInput())
             Q_EMIT edit->editingFinished();
     }
+    commitWhole();
+}
+
+/// For editors whose edits do not commit one by one: a rotation is left as a whole.
+void FieldRow::commitWhole()
+{
+    QFocusEvent leaving(QEvent::FocusOut);
+    QCoreApplication::sendEvent(m_editor, &leaving);
 }
 
 void FieldRow::release()
@@ -99,6 +121,8 @@ void FieldRow::refresh()
     if (!m_field)
         return;
     m_manager->refresh();
+    for (QLineEdit *const edit : std::as_const(m_edits))
+        edit->setModified(false); // not all are set anew
     updateMark();
 }
 
@@ -110,8 +134,9 @@ void FieldRow::follow()
 
 bool FieldRow::isBusy() const
 {
-    return m_manager->isHeld()
-        || std::any_of(m_edits.begin(), m_edits.end(), [](const QLineEdit *edit) { return edit->isModified(); });
+    return m_manager->isHeld() || std::any_of(m_edits.begin(), m_edits.end(), [](const QLineEdit *edit) {
+               return edit->isModified() && edit->isVisible();
+           });
 }
 
 void FieldRow::updateMark()
@@ -129,6 +154,8 @@ void FieldRow::updateMark()
 
 void FieldRow::setFocused(bool focused)
 {
+    if (focused && m_field)
+        updateMark(); // of a lost connection Coin tells nobody
     QFont font = m_label->font();
     if (font.bold() == focused)
         return;
@@ -188,6 +215,8 @@ void FieldRow::afterLeaving()
 {
     const bool isEntered
         = std::any_of(m_edits.begin(), m_edits.end(), [](const QLineEdit *e) { return e->hasFocus(); });
-    if (!isEntered && !m_manager->isHeld())
-        refresh();
+    if (isEntered || m_manager->isHeld())
+        return;
+    commitWhole();
+    refresh();
 }

@@ -63,15 +63,18 @@ Q_SIGNALS:
 
 private:
     void nameControls();
+    void adoptControls();
     void updateMark();
     bool isBusy() const;
     bool handleKey(const QLineEdit &edit, QKeyEvent &event);
     void afterLeaving();
+    void commitWhole();
 
     SoField *m_field;
     SoType m_type;
     SbName m_name;
     const EditorKind &m_kind;
+    QStringList m_choices;
     EditManager *m_manager;
     HbFieldEditors *m_editor;
     QLabel *m_label;

@@ -31,6 +31,7 @@ public:
     bool isSameValue(const FieldSnapshot &other) const;
     bool operator==(const FieldSnapshot &other) const;
 
+    const SoField &value() const { return *m_value; }
     bool isDefault() const { return m_default; }
     bool isIgnored() const { return m_ignored; }
     void setIgnored(bool ignored) { m_ignored = ignored; }

@@ -13,8 +13,15 @@
 #include <Inventor/fields/SoFields.h>
 #include <Inventor/nodes/SoNode.h>
 
+#include <cstring>
+
 namespace
 {
+/// Lends a name to a function that Coin keeps for its own classes: what an object is called in files.
+struct FileName : SoBase {
+    static const char *of(const SoBase &object) { return (object.*&FileName::getFileFormatName)(); }
+};
+
 QString translated(const char *text)
 {
     return QCoreApplication::translate("FieldText", text);
@@ -36,7 +43,7 @@ QString describe(const SoBase *object)
 {
     if (!object)
         return QStringLiteral("NULL");
-    const QString type = QString::fromLatin1(object->getTypeId().getName().getString());
+    const QString type = FieldText::typeName(*object);
     const SbName name = object->getName();
     return name.getLength() ? type + QLatin1Char(' ') + QString::fromLatin1(name.getString()) : type;
 }
@@ -112,9 +119,16 @@ QString multipleValue(SoMField &field, int limit)
 QString memberName(const SoBase *owner, const SbName &member)
 {
     const QString name = QString::fromLatin1(member.getString());
-    return owner ? QString::fromLatin1(owner->getTypeId().getName().getString()) + QLatin1Char('.') + name : name;
+    return owner ? FieldText::typeName(*owner) + QLatin1Char('.') + name : name;
 }
 } // namespace
+
+QString FieldText::typeName(const SoBase &object)
+{
+    const char *const name = object.getTypeId().getName().getString();
+    const bool isUnknown = std::strncmp(name, "Unknown", 7) == 0; // the classes that stand for what is not known
+    return QString::fromLatin1(isUnknown ? FileName::of(object) : name);
+}
 
 QString FieldText::qualifiedName(const SoField &field)
 {

@@ -6,11 +6,15 @@
 
 #include <QString>
 
+class SoBase;
 class SoField;
 
 /// What a person reads about a field.
 namespace FieldText
 {
+/// The class of a node or an engine; one that is not known here is called as it is in its file.
+QString typeName(const SoBase &object);
+
 /// The class of its node and its own name: "Cone.height".
 QString qualifiedName(const SoField &field);
 

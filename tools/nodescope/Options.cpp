@@ -22,7 +22,7 @@ QString description()
                                        "  0  all is well\n"
                                        "  1  the scene could not be read\n"
                                        "  2  the command line makes no sense\n"
-                                       "  3  the screenshot could not be written\n"
+                                       "  3  a picture could not be taken or written\n"
                                        "  4  --select leads to no node\n"
                                        "  5  the demonstration did not work");
 }
@@ -32,6 +32,20 @@ QSize sizeFrom(const QString &text)
     static const QRegularExpression pattern(QStringLiteral("^(\\d{2,5})x(\\d{2,5})$"));
     const QRegularExpressionMatch match = pattern.match(text);
     return match.hasMatch() ? QSize(match.captured(1).toInt(), match.captured(2).toInt()) : QSize();
+}
+
+/// Split at the first '=': fields have none in their names.
+std::vector<Options::Grab> grabsFrom(const QStringList &texts)
+{
+    std::vector<Options::Grab> grabs;
+    for (const QString &text : texts)
+        grabs.push_back({text.section(QLatin1Char('='), 0, 0), text.section(QLatin1Char('='), 1)});
+    return grabs;
+}
+
+bool isWhole(const Options::Grab &grab)
+{
+    return !grab.field.isEmpty() && !grab.fileName.isEmpty();
 }
 
 void print(FILE *stream, const QString &text)
@@ -50,6 +64,9 @@ std::optional<Options> Options::parse(const QStringList &arguments, int *exitCod
     };
     const QCommandLineOption screenshot
         = option("screenshot", "Saves a picture of the window to <file> and ends.", "file");
+    const QCommandLineOption grab = option(
+        "grab", "Saves a picture of the editor of the selected node's <field> to <file> and ends. May be repeated.",
+        "field>=<file");
     const QCommandLineOption select = option(
         "select", "Selects a node: names and child indices, separated by '/', e.g. Lighthouse/0/Lamp.", "path");
     const QCommandLineOption size = option("size", "The window's size, e.g. 1200x800.", "WxH");
@@ -61,7 +78,7 @@ std::optional<Options> Options::parse(const QStringList &arguments, int *exitCod
     parser.setApplicationDescription(description());
     const QCommandLineOption help({QStringLiteral("h"), QStringLiteral("help")}, tr("Shows this help."));
     const QCommandLineOption version({QStringLiteral("v"), QStringLiteral("version")}, tr("Shows the version."));
-    parser.addOptions({help, version, screenshot, select, size, demo, libraries});
+    parser.addOptions({help, version, screenshot, grab, select, size, demo, libraries});
     parser.addPositionalArgument(QStringLiteral("scene"), tr("The scene to open."), QStringLiteral("[scene]"));
 
     const bool parsed = parser.parse(arguments);
@@ -78,6 +95,7 @@ std::optional<Options> Options::parse(const QStringList &arguments, int *exitCod
     Options options;
     options.scene = parser.positionalArguments().value(0);
     options.screenshot = parser.value(screenshot);
+    options.grabs = grabsFrom(parser.values(grab));
     options.select = parser.value(select);
     options.size = sizeFrom(parser.value(size));
     options.demo = parser.isSet(demo);
@@ -90,6 +108,8 @@ std::optional<Options> Options::parse(const QStringList &arguments, int *exitCod
         problem = tr("Only one scene can be opened.");
     else if (parser.isSet(size) && !options.size.isValid())
         problem = tr("A size is written like 1200x800.");
+    else if (!std::all_of(options.grabs.begin(), options.grabs.end(), isWhole))
+        problem = tr("A picture of an editor is asked for like --grab height=height.png.");
     if (problem.isEmpty())
         return options;
     print(stderr, QStringLiteral("nodescope: ") + problem);

@@ -6,6 +6,7 @@
 #include "CoinMessages.h"
 #include "CoinRef.h"
 #include "SceneOutput.h"
+#include "ScenePath.h"
 
 #include <Inventor/SoDB.h>
 #include <Inventor/SoInput.h>
@@ -18,10 +19,29 @@
 
 namespace
 {
+constexpr int mostLevels = 4000;
 
 QString tr(const char *text)
 {
     return QCoreApplication::translate("SceneFile", text);
+}
+
+/// Coin reads level by level on the stack, and would end the process. Binary and packed files are not looked into.
+bool isNestedTooDeeply(QIODevice &file)
+{
+    const QByteArray header = file.peek(32);
+    if (!header.contains("ascii") && !header.contains("utf8"))
+        return false;
+    int level = 0;
+    while (!file.atEnd()) {
+        const QByteArray block = file.read(1 << 16);
+        for (const char character : block) {
+            level += character == '{' ? 1 : character == '}' ? -1 : 0;
+            if (level > mostLevels)
+                return true;
+        }
+    }
+    return false;
 }
 
 QString whyUnreadable(const QString &fileName, QByteArray *start)
@@ -32,8 +52,10 @@ QString whyUnreadable(const QString &fileName, QByteArray *start)
     QFile file(fileName);
     if (!file.open(QIODevice::ReadOnly))
         return tr("%1: %2").arg(name, file.errorString());
-    *start = file.read(2);
-    return start->isEmpty() ? tr("%1 is empty").arg(name) : QString();
+    *start = file.peek(2);
+    if (start->isEmpty())
+        return tr("%1 is empty").arg(name);
+    return isNestedTooDeeply(file) ? tr("%1 has more than %2 levels").arg(name).arg(mostLevels) : QString();
 }
 
 bool readTopLevelNodes(SoInput *input, SoGroup *root)
@@ -94,7 +116,13 @@ SceneFile readScene(const QString &fileName)
     const std::shared_ptr<SoSeparator> root = coinRef<SoSeparator>(new SceneRoot);
     const bool opened = input.openFile(QFile::encodeName(path).constData());
     const bool valid = opened && input.isValidFile();
-    if (valid && readTopLevelNodes(&input, root.get())) {
+    const bool read = valid && readTopLevelNodes(&input, root.get());
+    if (read && containsItself(root.get())) {
+        file.messages = QStringList{tr("%1: a node of the scene contains itself").arg(path)};
+        root->removeAllChildren();
+        return file;
+    }
+    if (read) {
         file.root = root;
         file.format = formatOf(input, start);
     }

@@ -4,6 +4,7 @@
 #include "SceneItem.h"
 
 #include "CoinRef.h"
+#include "FieldText.h"
 #include "SceneTree.h"
 
 #include <Inventor/SbName.h>
@@ -15,11 +16,6 @@
 
 namespace
 {
-
-/// Lends a name to a function that Coin keeps for its own classes: what a node is called in files.
-struct FileName : SoBase {
-    static QString of(const SoNode *node) { return QString::fromLatin1((node->*&FileName::getFileFormatName)()); }
-};
 
 bool isUnknown(const SoNode *node)
 {
@@ -91,7 +87,7 @@ QVariant SceneItem::data(int column, int role) const
 
 QString SceneItem::typeName() const
 {
-    return isUnknown(node()) ? FileName::of(node()) : QString::fromLatin1(m_node->getTypeId().getName().getString());
+    return FieldText::typeName(*m_node);
 }
 
 QString SceneItem::explanation() const

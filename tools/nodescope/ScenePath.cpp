@@ -11,6 +11,7 @@
 
 #include <algorithm>
 #include <deque>
+#include <unordered_map>
 #include <unordered_set>
 #include <utility>
 
@@ -70,6 +71,32 @@ std::vector<SoNode *> childrenOf(const SoNode *node)
     return children;
 }
 
+bool containsItself(SoNode *root)
+{
+    struct Step {
+        SoNode *node;
+        std::vector<SoNode *> children;
+        std::size_t next = 0;
+    };
+    std::unordered_map<SoNode *, bool> isOpen{{root, true}}; // a node on the way down is open
+    std::vector<Step> way{{root, childrenOf(root)}};
+    while (!way.empty()) {
+        Step &step = way.back();
+        if (step.next == step.children.size()) {
+            isOpen[step.node] = false;
+            way.pop_back();
+            continue;
+        }
+        SoNode *const child = step.children[step.next++];
+        const auto [known, isNew] = isOpen.emplace(child, true);
+        if (isNew)
+            way.push_back({child, childrenOf(child)});
+        else if (known->second)
+            return true;
+    }
+    return false;
+}
+
 ScenePath findPath(SoNode *root, const QString &text, QString *problem)
 {
     Place place{root, {}};
@@ -91,7 +118,9 @@ QString pathText(SoNode *root, const ScenePath &path)
     const SoNode *parent = root;
     for (const int index : path) {
         const std::vector<SoNode *> children = childrenOf(parent);
-        const SoNode *node = children.at(static_cast<std::size_t>(index));
+        if (index < 0 || index >= static_cast<int>(children.size()))
+            break; // the scene has changed under the path
+        const SoNode *node = children[static_cast<std::size_t>(index)];
         const QString name = nameOf(node);
         const auto first = std::find_if(children.begin(), children.end(),
                                         [&](const SoNode *child) { return nameOf(child) == name; });

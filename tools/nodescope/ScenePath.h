@@ -18,6 +18,9 @@ using ScenePath = QVector<int>;
 /// The children of any kind of node: a group's, a kit's parts, the nodes in a VRML node's fields.
 std::vector<SoNode *> childrenOf(const SoNode *node);
 
+/// Whether a node stands below itself: such a scene can be read, but never drawn or saved.
+bool containsItself(SoNode *root);
+
 /**
  * The path that @p text spells: names and child indices, separated by '/', as in "Lighthouse/0/Lamp".
  *

@@ -10,6 +10,7 @@
 #include <Inventor/nodes/SoNode.h>
 
 #include <QContextMenuEvent>
+#include <QElapsedTimer>
 #include <QHeaderView>
 
 #include <algorithm>
@@ -24,7 +25,12 @@ SceneTree::SceneTree(QWidget *parent) : HbGUITreeviewManagement(parent)
     connect(this, &QTreeWidget::itemExpanded, this, &SceneTree::fill);
     connect(this, &QTreeWidget::currentItemChanged, this,
             [this](QTreeWidgetItem *item) { Q_EMIT nodeSelected(nodeOf(item)); });
-    connect(&m_watch, &SceneWatch::structureChanged, this, &SceneTree::follow);
+    m_follow.setSingleShot(true);
+    connect(&m_follow, &QTimer::timeout, this, &SceneTree::follow);
+    connect(&m_watch, &SceneWatch::structureChanged, this, [this] {
+        if (!m_follow.isActive())
+            m_follow.start();
+    });
 }
 
 SceneTree::~SceneTree() = default;
@@ -47,6 +53,8 @@ void SceneTree::select(const ScenePath &path)
 {
     QTreeWidgetItem *item = path.isEmpty() ? nullptr : invisibleRootItem();
     for (const int index : path) {
+        if (!item) // the scene has changed and the tree has yet to follow
+            break;
         fill(item);
         item->setExpanded(true);
         item = item->child(index);
@@ -117,9 +125,12 @@ void SceneTree::fill(QTreeWidgetItem *item)
 
 void SceneTree::follow()
 {
+    QElapsedTimer time;
+    time.start();
     m_places.clear();
     refreshBranch(invisibleRootItem(), m_root.get());
     viewport()->update();
+    m_follow.setInterval(static_cast<int>(10 * time.elapsed())); // so that a moving scene leaves time for the user
 }
 
 void SceneTree::refreshBranch(QTreeWidgetItem *item, const SoNode *node)

@@ -9,6 +9,8 @@
 
 #include <HbGUITreeviewManagement.h>
 
+#include <QTimer>
+
 #include <unordered_map>
 
 /**
@@ -56,6 +58,7 @@ private:
 
     std::shared_ptr<SoNode> m_root;
     SceneWatch m_watch;
+    QTimer m_follow; ///< pauses ten times as long as the tree took to follow the scene
     mutable std::unordered_map<const SoNode *, int> m_places; ///< counted when first asked for; 1 where missing
 };
 

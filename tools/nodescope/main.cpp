@@ -4,6 +4,8 @@
 #include "CoinEventLoop.h"
 #include "CoinSetup.h"
 #include "Demo.h"
+#include "EditorPicture.h"
+#include "FieldPanel.h"
 #include "MainWindow.h"
 #include "Options.h"
 #include "SceneView.h"
@@ -45,11 +47,28 @@ int saveScreenshot(MainWindow &window, const QString &fileName)
     return ScreenshotFailed;
 }
 
-/// Ends the program with the first exit code that is not zero, after the screenshot.
+int saveEditor(const MainWindow &window, const Options::Grab &grab)
+{
+    QWidget *const editor = window.panel()->editorOf(grab.field);
+    if (editor && pictureOf(*editor).save(grab.fileName))
+        return Success;
+    complain(editor ? QCoreApplication::translate("main", "The picture could not be written to %1").arg(grab.fileName)
+                    : QCoreApplication::translate("main", "The selected node has no field %1").arg(grab.field));
+    return ScreenshotFailed;
+}
+
+/// Ends the program with the first exit code that is not zero, after the pictures.
 void finish(MainWindow &window, const Options &options, int exitCode)
 {
-    const int pictureCode = options.screenshot.isEmpty() ? Success : saveScreenshot(window, options.screenshot);
-    QCoreApplication::exit(exitCode != Success ? exitCode : pictureCode);
+    const auto note = [&exitCode](int code) {
+        if (exitCode == Success)
+            exitCode = code;
+    };
+    for (const Options::Grab &grab : options.grabs)
+        note(saveEditor(window, grab));
+    if (!options.screenshot.isEmpty())
+        note(saveScreenshot(window, options.screenshot));
+    QCoreApplication::exit(exitCode);
 }
 
 /// Calls @p action once, after the first frame is on the screen.

@@ -32,10 +32,7 @@ HbSFBitMaskWidget::HbSFBitMaskWidget(SoField *field, const char *label, HbFieldE
 {
     setField(field);
     buildBoxes();
-    for (QSpacerItem *const spacer : {m_labelSpacer, m_buttonSpacer})
-        spacer->changeSize(0, 0, QSizePolicy::Expanding, QSizePolicy::Minimum);
-    m_editionAreaLayout->invalidate();
-    m_fieldLayout->invalidate();
+    centreEditionFrame();
 }
 
 HbSFBitMaskWidget::HbSFBitMaskWidget(SoField *field, HbFieldEditorCommandManager *manager, QWidget *parent,

@@ -20,13 +20,7 @@ HbSFBoolWidget::HbSFBoolWidget(const char *label, HbFieldEditorCommandManager *m
     m_box->setFixedSize(nscsettings_fieldEditor(QStringLiteral("SFBoolWidth")),
                         nscsettings_fieldEditor(QStringLiteral("SFComponentHeight")));
     m_editLayout->addWidget(m_box);
-    m_labelSpacer->changeSize(0, 0, QSizePolicy::Expanding, QSizePolicy::Minimum);
-    m_buttonSpacer->changeSize(0, 0, QSizePolicy::Expanding, QSizePolicy::Minimum);
-    // only in one layout do two stretches become equally wide
-    m_editionAreaLayout->removeItem(m_buttonSpacer);
-    m_editionAreaLayout->removeItem(m_buttonLayout);
-    m_fieldLayout->addItem(m_buttonSpacer);
-    m_fieldLayout->addLayout(m_buttonLayout);
+    centreEditionFrame();
     connect(m_box, &QCheckBox::clicked, this, &HbSFBoolWidget::setCommandValue);
 }
 

@@ -63,6 +63,8 @@ void HbSFLineWidget::refresh()
 {
     if (SoField *const edited = editedField())
         m_lineEdit->setText(CoinText::ofField(*edited));
+    if (!m_lineEdit->isEnabled())
+        m_lineEdit->setCursorPosition(0); // who cannot move in it sees its start
     HbSFieldWidget::refresh();
 }
 

@@ -1,0 +1,55 @@
+#!/usr/bin/env bash
+# SPDX-FileCopyrightText: 2026 The HarborAPI authors
+# SPDX-License-Identifier: BSD-3-Clause
+#
+# Makes the pictures of the documents anew with a built nodescope: docs/make-pictures.sh [nodescope]
+
+set -euo pipefail
+
+nodescope=$(realpath -- "${1:-$(dirname "$0")/../build/release/bin/nodescope}")
+cd "$(dirname "$0")/.."
+
+. packaging/debian-packages.sh
+# shellcheck disable=SC2086
+install_packages $packages_run $packages_virtual_display
+
+# The same pictures on every desktop.
+export LC_ALL=C.UTF-8 QT_STYLE_OVERRIDE=fusion QT_SCALE_FACTOR=1
+unset QT_QPA_PLATFORMTHEME
+
+mkdir -p docs/images/editors
+
+# grab NODE FIELD=CLASS...: the editors of a node's fields
+grab() {
+    local node=$1 pair
+    shift
+    local options=()
+    for pair in "$@"; do
+        options+=(--grab "${pair%%=*}=docs/images/editors/${pair#*=}.png")
+    done
+    # the rule silences what the platform cannot do, such as raising a window
+    QT_QPA_PLATFORM=offscreen QT_LOGGING_RULES="default.warning=false" \
+        "$nodescope" --size 1200x800 --select "$node" "${options[@]}" docs/editors.iv
+}
+
+grab Light on=HbSFBoolWidget color=HbSFColorWidget
+grab Combine constantColor=HbSFVec4fWidget
+grab Unit unit=HbSFInt32Widget
+grab Style linePattern=HbSFUShortWidget
+grab Binding value=HbSFEnumWidget
+grab Font name=HbSFNameWidget
+grab Note string=HbSFStringWidget
+grab Placing translation=HbSFVec3fWidget rotation=HbSFRotationWidget
+grab Matrix matrix=HbSFMatrixWidget
+grab Section plane=HbSFPlaneWidget
+grab Mapping scaleFactor=HbSFVec2fWidget
+grab Mirror size=HbSFVec2sWidget
+grab Flag image=HbSFImageWidget
+grab Row numElements1=HbSFShortWidget
+grab Tower height=HbSFFloatWidget parts=HbSFBitMaskWidget
+grab Sample mask=HbSFUInt32Widget bounds=HbSFBox3sWidget duration=HbSFLineWidget
+
+QT_QPA_PLATFORM=xcb xvfb-run -a -s "-screen 0 1600x1000x24 +extension GLX" \
+    "$nodescope" --size 1400x850 --select Sun --screenshot docs/images/nodescope.png examples/scenes/harbour.iv
+
+echo "docs/images: nodescope.png and $(find docs/images/editors -name '*.png' | wc -l) editors"

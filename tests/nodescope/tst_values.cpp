@@ -1,0 +1,245 @@
+// SPDX-FileCopyrightText: 2026 The HarborAPI authors
+// SPDX-License-Identifier: BSD-3-Clause
+
+#include "PanelFixture.h"
+
+#include <HbFieldEditors.h>
+
+#include <QCheckBox>
+#include <QColorDialog>
+#include <QComboBox>
+#include <QPushButton>
+#include <QSpinBox>
+#include <QTimer>
+
+#include <Inventor/SoDB.h>
+#include <Inventor/fields/SoFields.h>
+#include <Inventor/nodes/SoCylinder.h>
+#include <Inventor/nodes/SoDirectionalLight.h>
+#include <Inventor/nodes/SoDrawStyle.h>
+#include <Inventor/nodes/SoMatrixTransform.h>
+#include <Inventor/nodes/SoTexture2.h>
+#include <Inventor/nodes/SoTransform.h>
+
+#include <cmath>
+#include <cstring>
+
+/// Values of all kinds through the panel: what an edit records, and that it is taken back to the bit.
+class TestValues : public PanelFixture
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void everyTypeHasAnEditorThatEdits()
+    {
+        SoTypeList types;
+        SoType::getAllDerivedFrom(SoSField::getClassTypeId(), types);
+        for (int i = 0; i < types.getLength(); ++i) {
+            if (!types[i].canCreateInstance())
+                continue;
+            show(QByteArray("SFTYPE value").replace("SFTYPE", types[i].getName().getString()));
+            const QByteArray type = field<SoField>()->getTypeId().getName().getString(); // not of an alias
+            QFrame *const row = m_panel->findChild<QFrame *>("Hb" + QString::fromLatin1(type) + "Widget");
+            const bool ownEditor = row && type != "SFVec2i32";
+            auto *const editor
+                = dynamic_cast<HbFieldEditors *>(ownEditor ? row : m_panel->findChild<QFrame *>("HbSFLineWidget"));
+            QVERIFY2(editor, type.constData());
+        }
+    }
+
+    void untouchedNumbersKeepEveryBit()
+    {
+        const Ref<SoTransform> node;
+        const SbVec3f value(0.1f, 1 / 3.0f, 2 / 3.0f);
+        node->translation = value;
+        node->rotation.setValue(SbVec3f(1, 2, 3), 1.2345678f);
+        const SbRotation turned = node->rotation.getValue();
+        m_panel->setNode(node);
+        commit(edits("translation").at(1), "7");
+        QCOMPARE(node->translation.getValue()[1], 7.0f);
+        QCOMPARE(bits(node->translation.getValue()[0]), bits(value[0]));
+        QCOMPARE(bits(node->translation.getValue()[2]), bits(value[2]));
+        commit(edits("rotation").at(0), edits("rotation").at(0)->text()); // typed again as it was
+        QVERIFY(node->rotation.getValue() == turned && m_stack->count() == 1);
+        commit(edits("rotation").at(3), "2");
+        SbVec3f axis;
+        float radians;
+        node->rotation.getValue(axis, radians);
+        QVERIFY(axis.equals(SbVec3f(1, 2, 3) / std::sqrt(14.0f), 1e-12f) && std::abs(radians - 2) < 1e-6f);
+        m_stack->setIndex(0);
+        QVERIFY(node->rotation.getValue() == turned && node->translation.getValue() == value);
+    }
+
+    void matrixGridKeepsTheOtherElements()
+    {
+        const Ref<SoMatrixTransform> node;
+        SbMatrix value = SbMatrix::identity();
+        value[3][0] = 1 / 3.0f;
+        node->matrix = value;
+        m_panel->setNode(node);
+        Complaints::expect("This plugin does not support");
+        m_panel->findChild<QPushButton *>("m_editButton")->click();
+        commit(edits("matrix").at(1 + 2), "5"); // behind the line of the whole value
+        QCOMPARE(node->matrix.getValue()[0][2], 5.0f);
+
+        QCOMPARE(bits(node->matrix.getValue()[3][0]), bits(value[3][0]));
+        m_stack->undo();
+        QVERIFY(node->matrix.getValue() == value);
+    }
+
+    void rotationIsCommittedWhenItsEditorIsLeft()
+    {
+        const Ref<SoTransform> node;
+        m_panel->setNode(node);
+        retype(edits("rotation").at(3), QStringLiteral("1.5"));
+        edits("rotation").at(0)->setFocus();
+        QCoreApplication::processEvents();
+        QCOMPARE(m_stack->count(), 0);
+        edits("center").at(0)->setFocus();
+        QCoreApplication::processEvents();
+        QCOMPARE(m_stack->count(), 1);
+        retype(edits("rotation").at(3), QStringLiteral("0.5"));
+        m_panel->setNode(*m_cone); // before it is left
+        QCOMPARE(m_stack->count(), 2);
+    }
+
+    void maskIsRecordedAndFollows()
+    {
+        const Ref<SoCylinder> node;
+        const Ref<SoCylinder> master;
+        m_panel->setNode(node);
+        const auto box = [&](const char *name) { return m_panel->findChild<QCheckBox *>(name); };
+        box("ALL")->click(); // all others are still checked
+        QCoreApplication::processEvents();
+        QCOMPARE(m_stack->count(), 0);
+        box("TOP")->click();
+        QCOMPARE(node->parts.getValue(), int(SoCylinder::SIDES | SoCylinder::BOTTOM));
+        QCOMPARE(m_stack->count(), 1);
+        node->parts = SoCylinder::TOP;
+        QCoreApplication::processEvents();
+        QVERIFY(box("TOP")->isChecked() && !box("SIDES")->isChecked() && box("ALL")->isChecked());
+        node->parts = SoCylinder::ALL;
+        node->parts.connectFrom(&master->parts);
+        QCoreApplication::processEvents();
+        box("TOP")->click();
+        QCOMPARE(m_stack->count(), 1); // refused: the value comes from elsewhere
+        QVERIFY(box("TOP")->isChecked() && m_messages.size() == 1);
+        node->parts.disconnect();
+        m_stack->undo();
+        QCOMPARE(node->parts.getValue(), int(SoCylinder::ALL));
+    }
+
+    void namesComeBackAfterAValueWithoutOne()
+    {
+        const Ref<SoDrawStyle> odd;
+        const Ref<SoDrawStyle> plain;
+        odd->style = 77;
+        m_panel->setNode(odd);
+        auto *const box = control<QComboBox>("DrawStyle.style");
+        QCOMPARE(box->currentText(), QString());
+        m_panel->setNode(plain);
+        QCOMPARE(box, control<QComboBox>("DrawStyle.style"));
+        QCOMPARE(box->itemText(0), QStringLiteral("FILLED"));
+        QTest::keyClick(box, Qt::Key_Down);
+        QCOMPARE(plain->style.getValue(), int(SoDrawStyle::LINES));
+        QCOMPARE(m_stack->undoText().section(QLatin1Char(' '), 1, 1), QStringLiteral("FILLED"));
+    }
+
+    void numberInASpinBoxIsOneStep()
+    {
+        show("SFVec2s value");
+        auto *const spin = m_panel->findChild<QSpinBox *>();
+        retype(spin->findChild<QLineEdit *>(), QStringLiteral("123"));
+        QCOMPARE(m_stack->count(), 0);
+        QTest::keyClick(spin, Qt::Key_Return);
+        QCOMPARE(m_stack->count(), 1);
+        QCOMPARE(field<SoSFVec2s>()->getValue()[0], short(123));
+    }
+
+    void refusedLineGivesTheWholeValueBack()
+    {
+        show("SFVec3d value");
+        const SbVec3d value(1 / 3.0, 2, 3);
+        *field<SoSFVec3d>() = value;
+        QCoreApplication::processEvents();
+        auto *const line = m_panel->findChild<QLineEdit *>("lineEdit");
+        commit(line, line->text()); // its text tells less than the value
+        QVERIFY(field<SoSFVec3d>()->getValue() == value && m_stack->count() == 0);
+        Complaints::expect("Coin");
+        commit(line, "4,5,6"); // the parser stores the 4 and gives up
+        QVERIFY(field<SoSFVec3d>()->getValue() == value && m_stack->count() == 0);
+        QCOMPARE(m_messages.size(), 1);
+    }
+
+    void pickedColourIsOneStep()
+    {
+        const Ref<SoDirectionalLight> light;
+        light->color.setValue(0.1f, 1 / 3.0f, 1);
+        const SbColor before = light->color.getValue();
+        m_panel->setNode(light);
+        QTimer::singleShot(0, [] {
+            auto *const dialog = qobject_cast<QColorDialog *>(QApplication::activeModalWidget());
+            dialog->setCurrentColor(Qt::red);
+            dialog->accept();
+        });
+        m_panel->findChild<QPushButton *>("m_colorDisp")->click();
+        QVERIFY(light->color.getValue() == SbColor(1, 0, 0) && m_stack->count() == 1);
+        m_stack->undo();
+        QVERIFY(light->color.getValue() == before);
+    }
+
+    void imageComesBackWithItsFileName()
+    {
+        const Ref<SoTexture2> texture;
+        const unsigned char pixels[] = {1, 2, 3, 4, 5, 6};
+        texture->image.setValue(SbVec2s(2, 1), 3, pixels);
+        const QByteArray before = saved(texture);
+        m_panel->setNode(texture);
+        Complaints::expect("SoTexture2|SbImage");
+        commit(edits("filename").at(0), "nowhere.png");
+        const QByteArray after = saved(texture); // without the image
+        m_stack->undo();
+        QCOMPARE(saved(texture), before);
+        m_stack->redo();
+        QCOMPARE(saved(texture), after);
+    }
+
+private:
+    /// A node of a class that has the one field @p declaration tells: "SFVec3f value".
+    void show(const QByteArray &declaration)
+    {
+        const QByteArray text = "#Inventor V2.1 ascii\nOdd { fields [ " + declaration + " ] }";
+        SoInput input;
+        input.setBuffer(text.constData(), size_t(text.size()));
+        SoNode *node = nullptr;
+        QVERIFY(SoDB::read(&input, node) && node);
+        m_odd = std::make_unique<Ref<SoNode>>(node);
+        m_panel->setNode(node);
+    }
+    template <class Field> Field *field() { return static_cast<Field *>((*m_odd)->getField("value")); }
+
+    QList<QLineEdit *> edits(const char *field)
+    {
+        for (QFrame *const row : m_panel->findChildren<QFrame *>()) {
+            if (row->accessibleName().endsWith(QLatin1Char('.') + QString::fromLatin1(field)))
+                return row->findChildren<QLineEdit *>();
+        }
+        return {};
+    }
+    static void commit(QLineEdit *edit, const QString &text)
+    {
+        retype(edit, text);
+        QTest::keyClick(edit, Qt::Key_Return);
+    }
+    static quint32 bits(float number)
+    {
+        quint32 bits;
+        std::memcpy(&bits, &number, sizeof bits);
+        return bits;
+    }
+
+    std::unique_ptr<Ref<SoNode>> m_odd;
+};
+
+QTEST_MAIN(TestValues)
+#include "tst_values.moc"

@@ -1,0 +1,420 @@
+// SPDX-FileCopyrightText: 2026 The HarborAPI authors
+// SPDX-License-Identifier: BSD-3-Clause
+
+#include "EditorKinds.h"
+#include "TestSupport.h"
+
+#include <HbSFBitMaskWidget.h>
+#include <HbSFColorWidget.h>
+#include <HbSFEnumWidget.h>
+#include <HbSFLineWidget.h>
+#include <HbSFNameWidget.h>
+#include <HbSFRotationWidget.h>
+#include <HbSFStringWidget.h>
+#include <HbSFVec2fWidget.h>
+#include <HbSFVec2i32Widget.h>
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QColorDialog>
+#include <QComboBox>
+#include <QLayout>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QSpinBox>
+#include <QTimer>
+
+#include <Inventor/fields/SoSFBitMask.h>
+#include <Inventor/fields/SoSFString.h>
+#include <Inventor/fields/SoSFVec2i32.h>
+
+#include <functional>
+
+namespace
+{
+using Manager = HbFieldEditorCommandManager;
+
+template <class Widget> std::unique_ptr<HbSFieldWidget> labelled(Manager *manager)
+{
+    return std::make_unique<Widget>("label", manager, nullptr, nullptr, Qt::WindowFlags());
+}
+
+template <class Widget> std::unique_ptr<HbSFieldWidget> unlabelled(Manager *manager)
+{
+    return std::make_unique<Widget>(manager, nullptr, nullptr, Qt::WindowFlags());
+}
+
+void open(HbSFieldWidget &editor, SoField &field)
+{
+    editor.setField(&field);
+    editor.refresh();
+    editor.show();
+    QApplication::setActiveWindow(&editor);
+}
+
+/// From left to right.
+QList<QLineEdit *> edits(const HbSFieldWidget &editor)
+{
+    return editor.findChildren<QLineEdit *>();
+}
+
+/// Does @p action once the colour dialog is open, which is closed after it in any case.
+void onceOpen(const std::function<void(QColorDialog &)> &action)
+{
+    QTimer::singleShot(0, qApp, [action] {
+        const QPointer<QColorDialog> dialog(qobject_cast<QColorDialog *>(QApplication::activeModalWidget()));
+        if (dialog)
+            action(*dialog);
+        if (dialog && dialog->isVisible())
+            dialog->reject();
+    });
+}
+
+QColor swatchColour(const HbSFColorWidget &editor)
+{
+    const auto *const swatch = editor.findChild<QPushButton *>(QStringLiteral("m_colorDisp"));
+    return swatch->icon().pixmap(swatch->iconSize()).toImage().pixelColor(2, 2);
+}
+
+/// A parent that hears of the keys that its children leave alone.
+class KeyCounter : public QWidget
+{
+public:
+    int keys = 0;
+
+protected:
+    void keyPressEvent(QKeyEvent *) override { ++keys; }
+};
+} // namespace
+
+/// What is peculiar to each editor of text, choices and several numbers.
+class TestCompound : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { Complaints::listen(); }
+    void init()
+    {
+        Complaints::expect(Complaints::missingDefaultSlot);
+        Complaints::expect(Complaints::missingApplySlot);
+    }
+    void cleanup() { QCOMPARE(Complaints::take(), QByteArray()); }
+
+    void withoutALabelEachKeyCommits_data()
+    {
+        QTest::addColumn<QByteArray>("type");
+        QTest::addColumn<int>("editor");
+        for (const char *const type : {"SFString", "SFName", "SFVec3f"}) {
+            QTest::addRow("%s", type) << QByteArray(type) << 0;
+            QTest::addRow("%s with a label", type) << QByteArray(type) << 1;
+        }
+    }
+    void withoutALabelEachKeyCommits()
+    {
+        QFETCH(QByteArray, type);
+        QFETCH(int, editor);
+        using Build = std::unique_ptr<HbSFieldWidget> (*)(Manager *);
+        const Build strings[] = {unlabelled<HbSFStringWidget>, labelled<HbSFStringWidget>};
+        const Build names[] = {unlabelled<HbSFNameWidget>, labelled<HbSFNameWidget>};
+        const Build lines[] = {unlabelled<HbSFLineWidget>, labelled<HbSFLineWidget>};
+        const Build *const builds = type == "SFString" ? strings : type == "SFName" ? names : lines;
+        const std::unique_ptr<SoField> field = makeField(type.constData(), "7 7 7");
+        RecordingManager manager;
+        const auto widget = builds[editor](&manager);
+        open(*widget, *field);
+        const bool hasLabel = editor == 1;
+        QCOMPARE(manager.takeLog().size(), hasLabel ? 0 : 1); // showing a text changes it, too
+        QLineEdit *const edit = edits(*widget).first();
+        QCOMPARE(edit->cursorPosition() == 0, type != "SFVec3f");
+        retype(edit, QStringLiteral("abc"));
+        QCOMPARE(manager.takeLog().size(), hasLabel ? 0 : 4); // the first key clears the line
+        edit->clearFocus();
+        QCOMPARE(manager.takeLog().size(), type == "SFVec3f" && !hasLabel ? 0 : 1);
+        edit->setFocus();
+        edit->clearFocus();
+    }
+
+    void lineWithoutAManager_data()
+    {
+        QTest::addColumn<bool>("hasLabel");
+        QTest::addColumn<QString>("written");
+        QTest::newRow("with a label, leaving writes") << true << "4 5 6";
+        QTest::newRow("without one, nothing does") << false << "1 2 3";
+    }
+    void lineWithoutAManager()
+    {
+        QFETCH(bool, hasLabel);
+        const std::unique_ptr<SoField> field = makeField("SFVec3f", "1 2 3");
+        const auto editor = hasLabel ? labelled<HbSFLineWidget>(nullptr) : unlabelled<HbSFLineWidget>(nullptr);
+        KeyCounter parent;
+        editor->setParent(&parent);
+        open(*editor, *field);
+        parent.show();
+        QApplication::setActiveWindow(&parent);
+        QLineEdit *const edit = edits(*editor).first();
+        retype(edit, QStringLiteral("4 5 6"));
+        QTest::keyClick(edit, Qt::Key_Return);
+        QTest::keyClick(edit, Qt::Key_Enter);
+        QCOMPARE(parent.keys, 2);
+        QCOMPARE(textOf(*field), QStringLiteral("1 2 3"));
+        edit->clearFocus();
+        QTEST(textOf(*field), "written");
+        editor->setParent(nullptr);
+    }
+
+    void lineOfAString()
+    {
+        SoSFString field;
+        field.setValue("say \"x\" \\ y");
+        const auto editor = labelled<HbSFLineWidget>(nullptr);
+        open(*editor, field);
+        QCOMPARE(edits(*editor).first()->text(), textOf(field));
+        editor->applyChanges();
+        QCOMPARE(field.getValue().getString(), "say \"x\" \\ y");
+    }
+
+    void enumerations()
+    {
+        const SbName names[] = {"A", "B", "\xC4"};
+        const auto field = makeField("SFEnum", "B");
+        HbSFEnumWidget editor("", nullptr, 3, names, nullptr, nullptr, {});
+        open(editor, *field);
+        auto *const box = editor.findChild<QComboBox *>(QStringLiteral("comboBox"));
+        QCOMPARE(box->itemText(2), QStringLiteral("\u00c4"));
+        field->set("C"); // no entry: it takes over the one that is shown
+        editor.refresh();
+        QCOMPARE(box->currentIndex(), 1);
+        QCOMPARE(box->currentText(), QStringLiteral("C"));
+        field->set("A");
+        editor.applyChanges();
+        QCOMPARE(textOf(*field), QStringLiteral("C"));
+
+        const auto empty = unlabelled<HbSFEnumWidget>(nullptr);
+        open(*empty, *field);
+        QCOMPARE(empty->findChild<QComboBox *>()->count(), 0);
+    }
+
+    void bitMasks()
+    {
+        SoSFBitMask field;
+        const int values[] = {0, 1, 2, 4, 6};
+        const SbName names[] = {"NONE", "ONE", "TWO", "FOUR", "SIX"};
+        field.setEnums(5, values, names);
+        field.setValue(2);
+        RecordingManager manager;
+        HbSFBitMaskWidget editor(&field, "mask", &manager, nullptr, nullptr, {});
+        editor.show();
+        QStringList boxes;
+        for (const QCheckBox *const box : editor.findChildren<QCheckBox *>())
+            boxes << box->text() + QString::number(box->isChecked());
+        QCOMPARE(boxes, QStringList({"ONE0", "TWO1", "FOUR0", "SIX1"}));
+        editor.findChild<QCheckBox *>(QStringLiteral("ONE"))->click();
+        QCOMPARE(field.getValue(), 7);
+        editor.findChild<QCheckBox *>(QStringLiteral("SIX"))->click();
+        QCOMPARE(field.getValue(), 3);
+        QCOMPARE(manager.log, QStringList()); // it is not told
+
+        field.setValue(4);
+        editor.refresh();
+        editor.applyChanges();
+        QCOMPARE(field.getValue(), 4);
+        QVERIFY(!editor.findChild<QCheckBox *>(QStringLiteral("FOUR"))->isChecked()); // as it was at the start
+
+        HbSFBitMaskWidget fieldless(nullptr, &manager, nullptr, nullptr, {});
+        QVERIFY(fieldless.findChildren<QCheckBox *>().isEmpty());
+    }
+
+    void spinBoxRanges_data()
+    {
+        QTest::addColumn<int>("mode");
+        QTest::addColumn<int>("minimum");
+        QTest::addColumn<int>("maximum");
+        QTest::newRow("16 bits") << 0 << -32768 << 32767;
+        QTest::newRow("32 bits") << 1 << std::numeric_limits<int>::min() << std::numeric_limits<int>::max();
+        QTest::newRow("pinned") << 2 << -1 << -1;
+        QTest::newRow("unknown") << 7 << 0 << 99;
+    }
+    void spinBoxRanges()
+    {
+        QFETCH(int, mode);
+        HbSF2iSpinBox editor(nullptr, nullptr, nullptr, {});
+        editor.setLimits(mode);
+        for (const QSpinBox *const box : editor.findChildren<QSpinBox *>()) {
+            QTEST(box->minimum(), "minimum");
+            QTEST(box->maximum(), "maximum");
+        }
+    }
+
+    void pinnedPairs()
+    {
+        RecordingManager manager;
+        SoSFVec2i32 wide;
+        wide.setValue(5, 6);
+        HbSFVec2i32Widget pinned("", &manager, nullptr, nullptr, {});
+        QCOMPARE(manager.takeLog().size(), 2); // each box falls to -1
+        open(pinned, wide);
+        QVERIFY(wide.getValue() == SbVec2i32(5, 6));
+        pinned.applyChanges();
+        QVERIFY(wide.getValue() == SbVec2i32(-1, -1));
+    }
+
+    void spacingOfPairsIsTheRows()
+    {
+        const HbSFVec2fWidget editor(nullptr, nullptr, nullptr, {});
+        const auto *const row = editor.findChild<QLayout *>(QStringLiteral("SFVec2fLayout"));
+        QVERIFY(row && row->count() == 2);
+        QCOMPARE(row->contentsMargins(), QMargins());
+        QCOMPARE(row->spacing(), 4);
+    }
+
+    void unfinishedComponents_data()
+    {
+        QTest::addColumn<int>("row");
+        const auto &kinds = editorKinds();
+        for (std::size_t row = 0; row < kinds.size(); ++row)
+            if (QByteArray(kinds[row].name).contains("Vec3f") || QByteArray(kinds[row].fieldType) == "SFMatrix"
+                || QByteArray(kinds[row].fieldType) == "SFBox3s" || QByteArray(kinds[row].fieldType) == "SFVec4f")
+                QTest::newRow(kinds[row].name) << int(row);
+    }
+    /// An empty edit commits nothing by itself and counts as 0 when another one does.
+    void unfinishedComponents()
+    {
+        QFETCH(int, row);
+        const EditorKind &kind = editorKinds()[std::size_t(row)];
+        const auto field = makeField(kind.fieldType, kind.values.last().toUtf8().constData());
+        const std::unique_ptr<HbSFieldWidget> editor(kind.build(nullptr));
+        open(*editor, *field);
+        QList<QLineEdit *> components;
+        for (QLineEdit *const edit : edits(*editor))
+            if (edit->validator())
+                components << edit;
+        QStringList expected = kind.values.last().split(QLatin1Char(' '));
+        for (const char *const text : {"", "-"}) {
+            retype(components[1], QLatin1String(text));
+            QTest::keyClick(components[1], Qt::Key_Return);
+            QCOMPARE(textOf(*field), kind.values.last());
+        }
+        QTest::keyClick(components[0], Qt::Key_Return);
+        expected[1] = QStringLiteral("0");
+        QCOMPARE(textOf(*field), expected.join(QLatin1Char(' ')));
+    }
+
+    void rotations()
+    {
+        const auto field = makeField("SFRotation", "0 0 1 1.5707963");
+        const QString before = textOf(*field);
+        const auto editor = labelled<HbSFRotationWidget>(nullptr);
+        open(*editor, *field);
+        QCOMPARE(edits(*editor)[3]->text(), QStringLiteral("1.5708"));
+        retype(edits(*editor)[0], QStringLiteral("2"));
+        QTest::keyClick(edits(*editor)[0], Qt::Key_Tab); // on to the next component
+        retype(edits(*editor)[2], QStringLiteral("0"));
+        QCOMPARE(textOf(*field), before);
+        QTest::keyClick(edits(*editor)[2], Qt::Key_Return);
+        QVERIFY(isSameOnDisplay(*field, textOf(*field), QStringLiteral("1 0 0 1.5708")));
+
+        const auto eager = unlabelled<HbSFRotationWidget>(nullptr);
+        open(*eager, *field);
+        retype(edits(*eager)[3], QStringLiteral("0.25"));
+        QTest::keyClick(edits(*eager)[3], Qt::Key_Tab);
+        QVERIFY(isSameOnDisplay(*field, textOf(*field), QStringLiteral("1 0 0 0.25")));
+
+        editor->refresh();
+        field->set("0 0 1 1");
+        QFocusEvent leaving(QEvent::FocusOut);
+        QCoreApplication::sendEvent(editor.get(), &leaving); // nothing was edited
+        QVERIFY(isSameOnDisplay(*field, textOf(*field), QStringLiteral("0 0 1 1")));
+        retype(edits(*editor)[3], QStringLiteral("0.5"));
+        QCoreApplication::sendEvent(editor.get(), &leaving);
+        QVERIFY(isSameOnDisplay(*field, textOf(*field), QStringLiteral("1 0 0 0.5")));
+    }
+
+    void colourDialog_data()
+    {
+        QTest::addColumn<QString>("before");
+        QTest::addColumn<QColor>("chosen");
+        QTest::addColumn<QColor>("offered");
+        QTest::addColumn<QStringList>("texts");
+        const QColor nothing;
+        QTest::newRow("red") << "0 0.2 0" << QColor(255, 0, 0) << QColor(0, 51, 0) << QStringList({"1", "0", "0"});
+        QTest::newRow("six digits") << "0 0 1" << QColor(128, 1, 0) << QColor(0, 0, 255)
+                                    << QStringList({"0.501961", "0.00392157", "0"});
+        QTest::newRow("cancelled") << "1 0.5 0" << nothing << QColor(255, 127, 0) << QStringList({"1", "0.5", "0"});
+        QTest::newRow("too bright") << "2 0 0" << nothing << QColor(Qt::black) << QStringList({"2", "0", "0"});
+        QTest::newRow("no number") << "nan 0 0" << nothing << QColor(Qt::black) << QStringList({"nan", "0", "0"});
+    }
+    void colourDialog()
+    {
+        QFETCH(QString, before);
+        QFETCH(QColor, chosen);
+        QFETCH(QStringList, texts);
+        const auto field = makeField("SFColor");
+        setText(*field, before);
+        RecordingManager manager;
+        HbSFColorWidget managed("", &manager, nullptr, nullptr, {});
+        HbSFColorWidget direct("", nullptr, nullptr, nullptr, {});
+        for (HbSFColorWidget *const editor : {&managed, &direct}) {
+            open(*editor, *field);
+            QColor offered;
+            onceOpen([&](QColorDialog &dialog) {
+                offered = dialog.currentColor();
+                dialog.setCurrentColor(chosen.isValid() ? chosen : QColor(Qt::green));
+                chosen.isValid() ? dialog.accept() : dialog.reject();
+            });
+            editor->findChild<QPushButton *>(QStringLiteral("m_colorDisp"))->click();
+            QTEST(offered, "offered");
+            QStringList shown;
+            for (const QLineEdit *const edit : edits(*editor))
+                shown << edit->text();
+            QCOMPARE(shown, texts);
+            QVERIFY(isSameOnDisplay(*field, textOf(*field), editor == &direct ? texts.join(' ') : before));
+        }
+        QCOMPARE(manager.log.size(), chosen.isValid() ? 1 : 0);
+
+        direct.setField(nullptr);
+        onceOpen([](QColorDialog &dialog) { dialog.setCurrentColor(Qt::blue), dialog.accept(); });
+        direct.findChild<QPushButton *>(QStringLiteral("m_colorDisp"))->click();
+        QCOMPARE(swatchColour(direct), QColor(Qt::blue));
+    }
+
+    void colourEditorDiesWithItsDialogOpen()
+    {
+        const auto field = makeField("SFColor", "1 0 0");
+        auto *const editor = new HbSFColorWidget("", nullptr, nullptr, nullptr, {});
+        open(*editor, *field);
+        onceOpen([editor](QColorDialog &) { delete editor; });
+        editor->findChild<QPushButton *>(QStringLiteral("m_colorDisp"))->click();
+        QCOMPARE(textOf(*field), QStringLiteral("1 0 0"));
+    }
+
+    void swatch_data()
+    {
+        QTest::addColumn<int>("component");
+        QTest::addColumn<QString>("typed");
+        QTest::addColumn<QColor>("colour");
+        QTest::newRow("follows") << 1 << "0.5" << QColor(255, 127, 255);
+        QTest::newRow("empty is 0") << 2 << "" << QColor(255, 0, 0);
+        QTest::newRow("too bright") << 0 << "2" << QColor(0, 0, 255);
+        QTest::newRow("no number") << 0 << "nan" << QColor(0, 0, 255);
+        QTest::newRow("beyond int") << 0 << "-1e30" << QColor(0, 0, 255);
+    }
+    void swatch()
+    {
+        QFETCH(int, component);
+        QFETCH(QString, typed);
+        const auto field = makeField("SFColor", component == 0 ? "0 0 1" : "1 0 1");
+        const QString before = textOf(*field);
+        HbSFColorWidget editor("", nullptr, nullptr, nullptr, {});
+        open(editor, *field);
+        edits(editor)[component]->selectAll();
+        edits(editor)[component]->insert(typed);
+        QTEST(swatchColour(editor), "colour");
+        QCOMPARE(textOf(*field), before); // not yet
+        QTest::keyClick(edits(editor)[component], Qt::Key_Return);
+        QVERIFY(textOf(*field) != before);
+    }
+};
+
+QTEST_MAIN(TestCompound)
+#include "tst_compound.moc"
