@@ -9,7 +9,7 @@
 /**
  * Shows an SoSFVec2i32 in two spin boxes that take the value -1 only, deliberately.
  *
- * Showing another value commits -1: use HbSFLineWidget where such a field is to be edited.
+ * Whatever it commits is -1: use HbSFLineWidget where such a field is to be edited.
  */
 class HARBORAPI_EXPORT HbSFVec2i32Widget : public HbSF2iSpinBox
 {
