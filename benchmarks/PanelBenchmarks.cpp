@@ -4,8 +4,9 @@
 #include "Benchmarks.h"
 #include "Comparison.h"
 #include "ManyFields.h"
-#include "PlainControls.h"
+#include "PlainAreas.h"
 
+#include "tools/nodescope/CoinRef.h"
 #include "tools/nodescope/FieldPanel.h"
 
 #include <QCoreApplication>
@@ -15,6 +16,9 @@
 #include <QScrollArea>
 #include <QUndoStack>
 #include <QVBoxLayout>
+
+#include <Inventor/nodes/SoMatrixTransform.h>
+#include <Inventor/nodes/SoTransform.h>
 
 #include <memory>
 #include <stdexcept>
@@ -46,6 +50,11 @@ QImage newPicture()
     return QImage(windowSize, QImage::Format_ARGB32_Premultiplied);
 }
 
+QWidget *newPlainRow(QWidget *parent)
+{
+    return PlainRow(QStringLiteral("field"), {PlainAreas::threeEdits}, nullptr, PlainRow::Bare, parent).frame;
+}
+
 void deleteLeftovers()
 {
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
@@ -70,11 +79,13 @@ public:
     Panel(const Panel &) = delete;
     Panel &operator=(const Panel &) = delete;
 
-    double selectFirst()
+    double selectFirst() { return selectAnew(m_first); }
+
+    double selectAnew(SoNode *node)
     {
         select(nullptr);
         deleteLeftovers();
-        return secondsOf([this] { select(m_first); });
+        return secondsOf([=] { select(node); });
     }
 
     double selectSecond()
@@ -170,7 +181,7 @@ public:
             auto *const page = new QWidget;
             auto *const layout = new QVBoxLayout(page);
             for (int i = 0; i < fieldCount; ++i)
-                layout->addWidget(PlainControls::vectorRow(QStringLiteral("field"), page));
+                layout->addWidget(newPlainRow(page));
             m_area.setWidget(page);
             turn(m_area);
         });
@@ -196,6 +207,16 @@ void comparePanel(const Comparison &comparison, Step measured, Step baseline)
         return Sides{[=] { return ((*panel).*measured)(); }, [=] { return ((*panel).*baseline)(); }};
     });
 }
+
+template <class Node, class Other> void compareNodes(const char *node, const char *other)
+{
+    compare({std::string("selecting a ") + node, std::string("selecting a ") + other}, [] {
+        const std::shared_ptr<SoNode> nodes[] = {coinRef(new Node), coinRef(new Other)};
+        const auto panel = std::make_shared<Panel>();
+        return Sides{[=, node = nodes[0]] { return panel->selectAnew(node.get()); },
+                     [=, node = nodes[1]] { return panel->selectAnew(node.get()); }};
+    });
+}
 } // namespace
 
 void addPanelBenchmarks()
@@ -214,6 +235,7 @@ void addPanelBenchmarks()
     comparePanel({selecting, "painting its panel once", 2}, &Panel::selectFirst, &Panel::paint);
     comparePanel({"selecting a second node of the class", "selecting the first", 0.6}, &Panel::selectSecond,
                  &Panel::selectFirst);
+    compareNodes<SoMatrixTransform, SoTransform>("MatrixTransform", "Transform");
     comparePanel({"one field changed elsewhere", "refreshing all 30", 1.0 / 50}, &Panel::changeOneField,
                  &Panel::refreshAllFields);
     comparePanel({"one field changed elsewhere", "selecting the node anew"}, &Panel::changeOneField,
