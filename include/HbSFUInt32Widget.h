@@ -10,7 +10,7 @@ class HbRangeComponent;
 class HbUIntSlider;
 
 /// Edits an SoSFUInt32 with a slider and an edit; hexadecimal, because the field writes its value so.
-/// Negative bounds of the range count as 0.
+/// A negative minimum of the range counts as 0, a negative maximum as the large number of the same bits.
 class HARBORAPI_EXPORT HbSFUInt32Widget : public HbSFieldWidget
 {
 public:

@@ -10,7 +10,7 @@ class HbRangeComponent;
 class HbUIntSlider;
 
 /// Edits an SoSFUShort with a slider and an edit; hexadecimal, because the field writes its value so.
-/// Negative bounds of the range count as 0; a value of more than 16 bits is cut to its low 16.
+/// A negative minimum of the range counts as 0, a negative maximum as the large number of the same bits. a value of more than 16 bits is cut to its low 16.
 class HARBORAPI_EXPORT HbSFUShortWidget : public HbSFieldWidget
 {
 public:

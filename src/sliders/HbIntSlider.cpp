@@ -87,12 +87,14 @@ void HbIntSlider::setValueFromEdit()
     int number = edit->text().toInt(&parsed, base); // 0 where the text is no number
     if (parsed && base != 10)
         number = qMax(qMin(number, validator->top()), validator->bottom());
-    if (limitsLocked)
+    if (limitsLocked) {
         number = qMax(qMin(number, top), bottom);
-    else if (number > top)
-        setTop(number);
-    else if (number < bottom)
-        setBottom(number);
+    } else {
+        if (number > top)
+            setTop(number);
+        if (number < bottom)
+            setBottom(number);
+    }
     store(number);
 }
 

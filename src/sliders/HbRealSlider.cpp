@@ -106,10 +106,11 @@ void HbRealSlider::setValueFromEdit()
             number = top;
         if (number < bottom)
             number = bottom;
-    } else if (number > top) {
-        setTop(number);
-    } else if (number < bottom) {
-        setBottom(number);
+    } else {
+        if (number > top)
+            setTop(number);
+        if (number < bottom)
+            setBottom(number);
     }
     sliderPosition = sliderToInt(number);
     value = number;

@@ -88,12 +88,14 @@ void HbUIntSlider::setValueFromEdit()
     if (!parsed)
         return;
     number = qMax(qMin(number, maxAllowed), minAllowed);
-    if (limitsLocked)
+    if (limitsLocked) {
         number = qMax(qMin(number, top), bottom);
-    else if (number > top)
-        setTop(number);
-    else if (number < bottom)
-        setBottom(number);
+    } else {
+        if (number > top)
+            setTop(number);
+        if (number < bottom)
+            setBottom(number);
+    }
     store(number);
 }
 

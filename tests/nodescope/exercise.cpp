@@ -14,11 +14,13 @@
 
 #include <HbFieldEditors.h>
 #include <HbPopupWidget.h>
+#include <HbSFRotationWidget.h>
 
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLineEdit>
+#include <QMap>
 #include <QPushButton>
 #include <QRegularExpression>
 #include <QSpinBox>
@@ -30,6 +32,7 @@
 #include <Inventor/nodes/SoNode.h>
 #include <Inventor/nodes/SoSeparator.h>
 
+#include <algorithm>
 #include <set>
 
 namespace
@@ -40,6 +43,7 @@ struct Counts {
     int fields = 0;
     int edits = 0;
     int faults = 0;
+    QMap<QString, int> editsByEditor;
 };
 
 void collect(SoNode *node, std::set<SoNode *> *seen, std::vector<std::shared_ptr<SoNode>> *nodes)
@@ -55,11 +59,14 @@ void collect(SoNode *node, std::set<SoNode *> *seen, std::vector<std::shared_ptr
 QString altered(const QString &text)
 {
     static const QRegularExpression number(QStringLiteral("-?[0-9][0-9.eE+-]*"));
+    static const QRegularExpression hexadecimal(QStringLiteral("^[0-9a-f]+$"));
+    const QRegularExpressionMatch found = number.match(text);
     QString other = text;
-    if (number.match(text).hasMatch())
-        return other.replace(number.match(text).capturedStart(), number.match(text).capturedLength(),
-                             text.startsWith(QLatin1Char('3')) ? QStringLiteral("2") : QStringLiteral("3"));
-    return text == QLatin1String("\"\"") ? QStringLiteral("\"x\"") : text + QLatin1Char('x');
+    if (text.endsWith(QLatin1Char('"')))
+        return other.insert(text.size() - 1, QLatin1Char('x'));
+    if (found.hasMatch())
+        return other.replace(found.capturedStart(), found.capturedLength(), found.captured() == "3" ? "2" : "3");
+    return hexadecimal.match(text).hasMatch() ? QStringLiteral("3") : text + QLatin1Char('x');
 }
 
 void type(QLineEdit *edit)
@@ -75,22 +82,42 @@ void type(QLineEdit *edit)
     QTest::keyClick(edit, Qt::Key_Return);
 }
 
-void change(HbFieldEditors *editor)
+/// Several boxes may stand for the same bits: those that are on go off.
+void clickAll(const QList<QCheckBox *> &boxes)
+{
+    const bool any = std::any_of(boxes.begin(), boxes.end(), [](const QCheckBox *box) { return box->isChecked(); });
+    for (QCheckBox *const box : boxes)
+        if (box->isChecked() == any)
+            box->click();
+}
+
+/// Changes the value by the editor's own controls; false where it has none.
+bool change(HbFieldEditors *editor)
 {
     if (dynamic_cast<HbPopupWidget *>(editor)) {
         editor->findChild<QPushButton *>("m_editButton")->click();
         type(editor->findChild<QLineEdit *>("popupEdit_1_2"));
         QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape);
+    } else if (dynamic_cast<HbSFRotationWidget *>(editor)) {
+        const auto edits = editor->findChildren<QLineEdit *>();
+        retype(edits[0], edits[0]->text() == "1" ? "2" : "1"); // an axis, as the angle may be 0 and the axis too
+        retype(edits[1], "1");
+        retype(edits[3], altered(edits[3]->text()));
+        QTest::keyClick(edits[3], Qt::Key_Return);
     } else if (auto *const choice = editor->findChild<QComboBox *>()) {
         QTest::keyClick(choice, choice->currentIndex() > 0 ? Qt::Key_Up : Qt::Key_Down);
     } else if (auto *const spin = editor->findChild<QSpinBox *>()) {
         QTest::keyClick(spin, Qt::Key_Up);
     } else if (auto *const edit = editor->findChild<QLineEdit *>()) {
-        if (!edit->isReadOnly())
-            type(edit);
-    } else if (auto *const box = editor->findChild<QCheckBox *>()) {
-        box->click();
+        if (edit->isReadOnly())
+            return false;
+        type(edit);
+    } else {
+        const auto boxes = editor->findChildren<QCheckBox *>();
+        clickAll(boxes);
+        return !boxes.isEmpty();
     }
+    return true;
 }
 
 QByteArray saved(SceneDocument *document, const QString &fileName)
@@ -126,8 +153,11 @@ void exercise(const QString &fileName, Counts *counts)
                 if (!editor)
                     continue;
                 ++counts->fields;
-                change(editor);
-                counts->edits += document.undoStack()->count();
+                const bool isEditable = change(editor);
+                const int steps = document.undoStack()->count();
+                counts->edits += steps > 0 ? 1 : 0;
+                if (isEditable)
+                    counts->editsByEditor[frame->objectName()] += steps > 0 ? 1 : 0;
                 document.undoStack()->setIndex(0);
                 document.undoStack()->clear();
                 qApp->processEvents();

@@ -122,7 +122,8 @@ const EditorKind &EditorTable::kindFor(const SoField &field)
     const auto *const found = std::find_if(std::begin(kinds), std::end(kinds), [&](const EditorKind &kind) {
         return kind.fieldType() == field.getTypeId();
     });
-    if (found != std::end(kinds))
+    const bool isNameless = field.isOfType(SoSFEnum::getClassTypeId()) && choices(field).isEmpty();
+    if (found != std::end(kinds) && !isNameless)
         return *found;
     const bool fitsALine = field.isOfType(SoSField::getClassTypeId()) && !isLong(field);
     return fitsALine ? anySingleValue : tooLong;
@@ -167,7 +168,7 @@ void EditorTable::resetRange(HbFieldEditors &editor, const HbRangeComponent &ran
     } else if (auto *const integer = dynamic_cast<HbIntSlider *>(slider)) {
         integer->setValidLimits(range.iMin, range.iMax, range.boundFixed);
     } else if (auto *const natural = dynamic_cast<HbUIntSlider *>(slider)) {
-        natural->setValidLimits(static_cast<unsigned>(qMax(range.iMin, 0)), static_cast<unsigned>(qMax(range.iMax, 0)),
+        natural->setValidLimits(static_cast<unsigned>(qMax(range.iMin, 0)), static_cast<unsigned>(range.iMax),
                                 range.boundFixed);
     }
 }

@@ -202,7 +202,10 @@ bool FieldRow::handleKey(const QLineEdit &edit, QKeyEvent &event)
         event.ignore(); // not the edit's own undo: the application's
         return true;
     }
-    if (event.key() != Qt::Key_Escape || !edit.isModified())
+    const bool isInPopup = edit.window() != m_editor->window();
+    if (event.key() == Qt::Key_Escape && isInPopup && !isAsked)
+        refresh(); // and the popup closes
+    if (event.key() != Qt::Key_Escape || !edit.isModified() || isInPopup)
         return false;
     event.accept();
     if (!isAsked)

@@ -50,6 +50,7 @@ void HbSFBitMaskWidget::buildBoxes()
         return;
     const int value = mask->getValue();
     auto *const column = new QVBoxLayout;
+    column->setObjectName(QStringLiteral("SFBitMaskLayout"));
     for (int i = 0; i < mask->getNumEnums(); ++i) {
         SbName name;
         const int bits = mask->getEnum(i, name);

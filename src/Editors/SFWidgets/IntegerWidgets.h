@@ -18,10 +18,11 @@ inline void setLimits(HbIntSlider &slider, const HbRangeComponent &range)
     slider.setValidLimits(range.iMin, range.iMax, range.boundFixed);
 }
 
+/// A negative minimum counts as 0; a negative maximum is the pattern of a large number: -1 the largest.
 inline void setLimits(HbUIntSlider &slider, const HbRangeComponent &range)
 {
-    slider.setValidLimits(static_cast<unsigned int>(qMax(range.iMin, 0)),
-                          static_cast<unsigned int>(qMax(range.iMax, 0)), range.boundFixed);
+    slider.setValidLimits(static_cast<unsigned int>(qMax(range.iMin, 0)), static_cast<unsigned int>(range.iMax),
+                          range.boundFixed);
 }
 
 /// An editor's edition frame seen as the slider it is, with its limits set.
