@@ -188,5 +188,9 @@ int main(int argc, char *argv[])
     }
     QTextStream(stdout) << counts.files << " scenes, " << counts.nodes << " nodes, " << counts.fields << " fields, "
                         << counts.edits << " edits taken back, " << counts.faults << " faults\n";
+    for (auto editor = counts.editsByEditor.cbegin(); editor != counts.editsByEditor.cend(); ++editor) {
+        QTextStream(stdout) << "  " << editor.key() << ' ' << editor.value() << '\n';
+        counts.faults += editor.value() == 0 ? 1 : 0; // its edit ends in nothing
+    }
     return counts.faults == 0 && counts.edits > 0 ? EXIT_SUCCESS : EXIT_FAILURE;
 }
