@@ -164,11 +164,12 @@ QString randomFloat(QRandomGenerator &random)
 const std::pair<qint64, qint64> *integerRange(const SoField &field)
 {
     static const std::pair<QRegularExpression, std::pair<qint64, qint64>> ranges[]
-        = {{QRegularExpression("UShort$"), {0, 0xffff}},
-           {QRegularExpression("UInt32$"), {0, 0xffffffff}},
+        = {{QRegularExpression("(UShort|us)$"), {0, 0xffff}},
+           {QRegularExpression("(UInt32|ULong|ui32)$"), {0, 0xffffffff}},
            {QRegularExpression("(Short|s)$"), {-0x8000, 0x7fff}},
            {QRegularExpression("ub$"), {0, 0xff}},
-           {QRegularExpression("(Int|i)32$"), {-0x80000000LL, 0x7fffffff}}};
+           {QRegularExpression("(Vec.b)$"), {-0x80, 0x7f}},
+           {QRegularExpression("((Int|i)32|Long)$"), {-0x80000000LL, 0x7fffffff}}};
     const QString type = QString::fromLatin1(field.getTypeId().getName().getString());
     for (const auto &[pattern, range] : ranges)
         if (pattern.match(type).hasMatch())

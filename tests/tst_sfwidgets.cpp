@@ -17,10 +17,13 @@
 #include <QRandomGenerator>
 #include <QSlider>
 
+#include <Inventor/SoLists.h>
 #include <Inventor/errors/SoReadError.h>
 #include <Inventor/fields/SoSFFloat.h>
 #include <Inventor/fields/SoSFShort.h>
 #include <Inventor/fields/SoSFUShort.h>
+#include <Inventor/fields/SoSField.h>
+#include <Inventor/sensors/SoFieldSensor.h>
 
 namespace
 {
@@ -107,9 +110,17 @@ private Q_SLOTS:
         const auto line = std::find_if(kinds.begin(), kinds.end(), [](const EditorKind &kind) {
             return qstrcmp(kind.name, "HbSFLineWidget") == 0;
         });
-        for (const char *const type : {"SFTime", "SFDouble", "SFVec3d", "SFBox3f", "SFBox2d", "SFVec2i32", "SFVec3s",
-                                       "SFBox3i32", "SFVec4ub", "SFColorRGBA", "SFEnum"})
-            QTest::addRow("line of %s", type) << std::size_t(line - kinds.begin()) << QByteArray(type);
+        SoTypeList types;
+        SoType::getAllDerivedFrom(SoSField::getClassTypeId(), types);
+        const QByteArrayList withoutNumbers{"SFNode",  "SFPath",   "SFEngine", "SFTrigger",
+                                            "SFImage", "SFImage3", "SFBitMask"};
+        for (int i = 0; i < types.getLength(); ++i) {
+            const QByteArray type = types[i].getName().getString();
+            const bool hasKind = std::any_of(kinds.begin(), kinds.end(),
+                                             [&](const EditorKind &kind) { return kind.fieldType == type; });
+            if (types[i].canCreateInstance() && !hasKind && !withoutNumbers.contains(type))
+                QTest::addRow("line of %s", type.constData()) << std::size_t(line - kinds.begin()) << type;
+        }
     }
     void keepsRandomValues()
     {
@@ -136,8 +147,13 @@ private Q_SLOTS:
         Bench bench(nullptr);
         bench.set(bench.kind.values.last());
         bench.editor->refresh();
+        int writes = 0;
+        SoFieldSensor sensor([](void *count, SoSensor *) { ++*static_cast<int *>(count); }, &writes);
+        sensor.setPriority(0);
+        sensor.attach(bench.field.get());
         bench.change();
         QVERIFY2(bench.shows(bench.kind.written), describe(bench.text(), bench.kind.written));
+        QVERIFY2(writes == 1 || writes == 2, qPrintable(QString::number(writes))); // Return commits and ends the edit
         bench.button("m_ignoreButton")->click();
         QVERIFY(bench.field->isIgnored());
         bench.field->setIgnored(FALSE);
