@@ -13,6 +13,27 @@
 #include <Inventor/SbName.h>
 #include <Inventor/fields/SoSFEnum.h>
 
+namespace
+{
+/// The name of the value, as the field writes it: nothing for one without a name.
+QString textOf(SoField *field)
+{
+    const auto *const choice = fieldCast<SoSFEnum>(field);
+    if (!choice || choice->getNumEnums() == 0) {
+        SbString text;
+        if (field)
+            field->get(text);
+        return QString::fromLatin1(text.getString());
+    }
+    for (int i = 0; i < choice->getNumEnums(); ++i) {
+        SbName name;
+        if (choice->getEnum(i, name) == choice->getValue())
+            return QString::fromLatin1(name.getString());
+    }
+    return {};
+}
+} // namespace
+
 HbSFEnumWidget::HbSFEnumWidget(const char *label, HbFieldEditorCommandManager *manager, int count, const SbName *names,
                                QWidget *parent, const char *name, Qt::WindowFlags flags)
     : HbSFieldWidget(label, manager, parent, name ? name : "HbSFEnumWidget", flags),
@@ -37,10 +58,7 @@ HbSFEnumWidget::~HbSFEnumWidget() = default;
 
 void HbSFEnumWidget::refresh()
 {
-    SbString value;
-    if (SoField *const choice = editedField())
-        choice->get(value);
-    const QString text = QString::fromLatin1(value.getString());
+    const QString text = textOf(editedField());
     const int entry = m_comboBox->findText(text, Qt::MatchExactly | Qt::MatchCaseSensitive);
     if (entry >= 0)
         m_comboBox->setCurrentIndex(entry);

@@ -22,7 +22,7 @@ HbSFInt32Widget::~HbSFInt32Widget() = default;
 
 void HbSFInt32Widget::refresh()
 {
-    IntegerWidgets::show(editedField(), *m_slider);
+    IntegerWidgets::show<SoSFInt32>(editedField(), *m_slider);
     HbSFieldWidget::refresh();
 }
 

@@ -22,7 +22,7 @@ HbSFShortWidget::~HbSFShortWidget() = default;
 
 void HbSFShortWidget::refresh()
 {
-    IntegerWidgets::show(editedField(), *m_slider);
+    IntegerWidgets::show<SoSFShort>(editedField(), *m_slider);
     HbSFieldWidget::refresh();
 }
 

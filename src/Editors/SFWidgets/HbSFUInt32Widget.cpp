@@ -5,6 +5,8 @@
 
 #include "IntegerWidgets.h"
 
+#include <Inventor/fields/SoSFUInt32.h>
+
 HbSFUInt32Widget::HbSFUInt32Widget(const char *label, const HbRangeComponent &range,
                                    HbFieldEditorCommandManager *manager, QWidget *parent, const char *name,
                                    Qt::WindowFlags flags)
@@ -23,7 +25,7 @@ HbSFUInt32Widget::~HbSFUInt32Widget() = default;
 
 void HbSFUInt32Widget::refresh()
 {
-    IntegerWidgets::show(editedField(), *m_slider);
+    IntegerWidgets::show<SoSFUInt32>(editedField(), *m_slider);
     HbSFieldWidget::refresh();
 }
 

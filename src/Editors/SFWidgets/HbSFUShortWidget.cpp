@@ -5,6 +5,8 @@
 
 #include "IntegerWidgets.h"
 
+#include <Inventor/fields/SoSFUShort.h>
+
 HbSFUShortWidget::HbSFUShortWidget(const char *label, const HbRangeComponent &range,
                                    HbFieldEditorCommandManager *manager, QWidget *parent, const char *name,
                                    Qt::WindowFlags flags)
@@ -23,7 +25,7 @@ HbSFUShortWidget::~HbSFUShortWidget() = default;
 
 void HbSFUShortWidget::refresh()
 {
-    IntegerWidgets::show(editedField(), *m_slider);
+    IntegerWidgets::show<SoSFUShort>(editedField(), *m_slider);
     HbSFieldWidget::refresh();
 }
 

@@ -5,10 +5,14 @@
 #define INTEGERWIDGETS_H
 
 #include "support/CoinText.h"
+#include "support/FieldWatch.h"
 
 #include <HbIntSlider.h>
 #include <HbRangeComponent.h>
 #include <HbUIntSlider.h>
+
+#include <Inventor/fields/SoSFInt32.h>
+#include <Inventor/fields/SoSFShort.h>
 
 /// What the four editors of single integers share.
 namespace IntegerWidgets
@@ -33,9 +37,25 @@ template <class Slider> Slider *limitedSlider(QFrame *editionFrame, const HbRang
     return slider;
 }
 
-inline void show(SoField *field, HbSlider &slider)
+inline QString textOf(const SoSFInt32 &field)
 {
-    if (field)
+    return QString::number(field.getValue());
+}
+inline QString textOf(const SoSFShort &field)
+{
+    return QString::number(field.getValue());
+}
+template <class Field> QString textOf(const Field &field)
+{
+    return QLatin1String("0x") + QString::number(field.getValue(), 16);
+}
+
+/// The field's own text; where the field is a @p Field without the writer that Coin builds up for each of them.
+template <class Field> void show(SoField *field, HbSlider &slider)
+{
+    if (const auto *const number = fieldCast<Field>(field))
+        slider.setValue(textOf(*number));
+    else if (field)
         slider.setValue(CoinText::ofField(*field));
 }
 
