@@ -7,13 +7,17 @@
 #include <HbFieldEditorCommandManager.h>
 #include <HbFieldEditors.h>
 
+#include <QApplication>
+#include <QLineEdit>
 #include <QRegularExpression>
 #include <QStringList>
+#include <QTableWidget>
 #include <QtTest>
 
 #include <Inventor/SbString.h>
 #include <Inventor/SoDB.h>
 #include <Inventor/errors/SoDebugError.h>
+#include <Inventor/sensors/SoFieldSensor.h>
 
 #include <memory>
 
@@ -26,6 +30,10 @@ inline QtMessageHandler previousHandler = nullptr;
 
 /// What every editor without a command manager says when it is built.
 constexpr auto missingDefaultSlot = "No such slot HbSFieldWidget::setDefaultValue\\(\\)|\\((sender|receiver) name:";
+
+/// What every editor of many values without a command manager says when it is built.
+constexpr auto missingTableDefaultSlot
+    = "No such slot HbMFieldWidget::setDefaultValue\\(\\)|\\((sender|receiver) name:";
 
 /// What every editor with a line of text says when it is built without one.
 constexpr auto missingApplySlot = "No such slot HbSFieldWidget::applyChanges\\(\\)";
@@ -73,16 +81,16 @@ inline QByteArray take()
 class RecordingManager : public HbFieldEditorCommandManager
 {
 public:
-    void mfieldSwapRows(int a, int b) override { log << QStringLiteral("swapRows %1 %2").arg(a).arg(b); }
-    void mfieldSwapColumns(int a, int b) override { log << QStringLiteral("swapColumns %1 %2").arg(a).arg(b); }
-    void mfieldDeleteRows(int row, int n) override { log << QStringLiteral("deleteRows %1 %2").arg(row).arg(n); }
-    void mfieldAddRows(int row, int n) override { log << QStringLiteral("addRows %1 %2").arg(row).arg(n); }
+    void mfieldSwapRows(int a, int b) override { note(QStringLiteral("swapRows %1 %2").arg(a).arg(b)); }
+    void mfieldSwapColumns(int a, int b) override { note(QStringLiteral("swapColumns %1 %2").arg(a).arg(b)); }
+    void mfieldDeleteRows(int row, int n) override { note(QStringLiteral("deleteRows %1 %2").arg(row).arg(n)); }
+    void mfieldAddRows(int row, int n) override { note(QStringLiteral("addRows %1 %2").arg(row).arg(n)); }
     void mfieldSet1Value(int row, int col, QString text, SbString *previous) override
     {
-        log << QStringLiteral("set1Value %1 %2 %3 %4")
-                   .arg(row)
-                   .arg(col)
-                   .arg(text.isNull() ? QStringLiteral("null") : text, take(previous));
+        note(QStringLiteral("set1Value %1 %2 %3 %4")
+                 .arg(row)
+                 .arg(col)
+                 .arg(text.isNull() ? QStringLiteral("null") : text, take(previous)));
     }
     void mfieldSetValue(int row, const void *) override { log << QStringLiteral("setValue %1").arg(row); }
     void sfieldSetValue(SbString *previous) override
@@ -98,8 +106,15 @@ public:
 
     QStringList log;
     std::function<void()> onCommit;
+    std::function<void()> onTableCommand;
 
 private:
+    void note(const QString &command)
+    {
+        log << command;
+        if (onTableCommand)
+            onTableCommand();
+    }
     static QString take(SbString *previous)
     {
         const std::unique_ptr<SbString> owned(previous);
@@ -156,6 +171,32 @@ public:
 private:
     Node *m_node;
 };
+
+/// Counts the notifications of a field.
+class Listener
+{
+public:
+    explicit Listener(SoField &field)
+    {
+        m_sensor.setPriority(0);
+        m_sensor.attach(&field);
+    }
+    int take() { return std::exchange(m_count, 0); }
+
+private:
+    int m_count = 0;
+    SoFieldSensor m_sensor{[](void *self, SoSensor *) { ++static_cast<Listener *>(self)->m_count; }, this};
+};
+
+/// Opens a cell's editor; where one types in it, or null if the cell has none.
+inline QLineEdit *openCell(QTableWidget *table, int row, int col)
+{
+    QApplication::setActiveWindow(table->window());
+    table->setFocus();
+    table->setCurrentCell(row, col);
+    table->edit(table->model()->index(row, col));
+    return qobject_cast<QLineEdit *>(QApplication::focusWidget());
+}
 
 /// Types @p text over what @p edit shows, as a person does; QTest itself knows no keys beyond Latin-1.
 template <class Edit> void retype(Edit *edit, const QString &text)

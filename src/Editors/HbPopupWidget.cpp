@@ -5,8 +5,8 @@
 
 #include "EditorButton.h"
 #include "FieldEditorSettings.h"
+#include "support/GridValidators.h"
 #include "support/Icons.h"
-#include "support/NumberValidator.h"
 #include "support/PopupPlacement.h"
 
 #include <HbFieldEditorCommandManager.h>
@@ -18,31 +18,6 @@
 #include <QScreen>
 
 #include <algorithm>
-#include <limits>
-
-namespace
-{
-using Short = std::numeric_limits<qint16>;
-
-/// Null for kind 0.
-QValidator *newValidator(int kind, QLineEdit *edit)
-{
-    constexpr double largest = std::numeric_limits<float>::max();
-    constexpr int decimals = 6;
-    switch (kind) {
-    case 1:
-        return new IntValidator(edit, Short::min(), Short::max());
-    case 2:
-        return new IntValidator(edit);
-    case 3:
-        return new RealValidator(edit, -largest, largest, decimals);
-    case 4:
-        return new RealValidator(edit);
-    default:
-        return nullptr;
-    }
-}
-} // namespace
 
 HbPopupWidget::HbPopupWidget(const char *label, HbFieldEditorCommandManager *manager, int rows, int columns,
                              QWidget *parent, const char *name, Qt::WindowFlags flags)
@@ -120,15 +95,9 @@ void HbPopupWidget::revertCursorPosition()
 
 void HbPopupWidget::setValidator(int kind)
 {
-    if (kind < 0 || kind > 4)
-        return;
-    for (QLineEdit *const edit : m_edits) {
-        if (!edit)
-            continue;
-        const QValidator *const replaced = edit->validator();
-        edit->setValidator(newValidator(kind, edit));
-        delete replaced;
-    }
+    for (QLineEdit *const edit : m_edits)
+        if (edit)
+            GridValidators::install(kind, edit);
 }
 
 void HbPopupWidget::managePopFramePos()

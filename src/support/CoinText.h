@@ -13,12 +13,17 @@
 /// Coin's texts to Qt's and back: strings are UTF-8, those of old files Latin-1.
 namespace CoinText
 {
-inline QString toQString(const SbString &text)
+inline QString toQString(const char *text, int length)
 {
-    const QByteArray bytes = QByteArray::fromRawData(text.getString(), text.getLength());
+    const QByteArray bytes = QByteArray::fromRawData(text, length);
     const QString unicode = QString::fromUtf8(bytes);
     const bool isBroken = unicode.contains(QChar::ReplacementCharacter) && !bytes.contains("\xEF\xBF\xBD");
     return isBroken ? QString::fromLatin1(bytes) : unicode;
+}
+
+inline QString toQString(const SbString &text)
+{
+    return toQString(text.getString(), text.getLength());
 }
 
 inline SbString toSbString(const QString &text)

@@ -8,16 +8,21 @@
 
 #include <Inventor/fields/SoField.h>
 
+#include <functional>
+#include <utility>
+
 /// A pointer to a field that turns null when the field is deleted.
 class FieldWatch
 {
 public:
     FieldWatch() : m_watch(fieldDeleted, this) { }
 
-    void set(SoField *field)
+    /// @p gone is called when the field is deleted.
+    void set(SoField *field, std::function<void()> gone = {})
     {
         m_watch.detach();
         m_field = field;
+        m_gone = std::move(gone);
         if (field)
             m_watch.attach(field);
     }
@@ -25,9 +30,16 @@ public:
     SoField *get() const { return m_field; }
 
 private:
-    static void fieldDeleted(void *self, SoSensor *) { static_cast<FieldWatch *>(self)->m_field = nullptr; }
+    static void fieldDeleted(void *self, SoSensor *)
+    {
+        auto *const watch = static_cast<FieldWatch *>(self);
+        watch->m_field = nullptr;
+        if (watch->m_gone)
+            watch->m_gone();
+    }
 
     SoField *m_field = nullptr;
+    std::function<void()> m_gone;
     FieldDeletionWatch m_watch;
 };
 

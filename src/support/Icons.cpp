@@ -3,8 +3,12 @@
 
 #include "Icons.h"
 
+#include "resources/addrow.xpm"
+#include "resources/deleterow.xpm"
 #include "resources/edit.xpm"
 #include "resources/ignorefield.xpm"
+#include "resources/movedown.xpm"
+#include "resources/moveup.xpm"
 #include "resources/settodefault.xpm"
 
 #include <QPixmapCache>
@@ -39,4 +43,28 @@ QPixmap Icons::edit()
 {
     static QPixmapCache::Key key;
     return cached(&key, edit_xpm);
+}
+
+QPixmap Icons::addRow()
+{
+    static QPixmapCache::Key key;
+    return cached(&key, addrow_xpm);
+}
+
+QPixmap Icons::deleteRow()
+{
+    static QPixmapCache::Key key;
+    return cached(&key, deleterow_xpm);
+}
+
+QPixmap Icons::moveUp()
+{
+    static QPixmapCache::Key key;
+    return cached(&key, moveup_xpm);
+}
+
+QPixmap Icons::moveDown()
+{
+    static QPixmapCache::Key key;
+    return cached(&key, movedown_xpm);
 }

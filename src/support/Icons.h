@@ -12,6 +12,10 @@ namespace Icons
 QPixmap setToDefault();
 QPixmap ignoreField();
 QPixmap edit();
+QPixmap addRow();
+QPixmap deleteRow();
+QPixmap moveUp();
+QPixmap moveDown();
 } // namespace Icons
 
 #endif

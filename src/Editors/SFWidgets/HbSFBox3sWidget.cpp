@@ -4,6 +4,7 @@
 #include <HbSFBox3sWidget.h>
 
 #include "support/FieldWatch.h"
+#include "support/GridValidators.h"
 
 #include <QLineEdit>
 
@@ -19,14 +20,14 @@ HbSFBox3sWidget::HbSFBox3sWidget(const char *label, HbFieldEditorCommandManager 
                                  const char *name, Qt::WindowFlags flags)
     : HbPopupWidget(label, manager, rows, columns, parent, name ? name : "HbSFBox3sWidget", flags)
 {
-    setValidator(1);
+    setValidator(GridValidators::short16);
 }
 
 HbSFBox3sWidget::HbSFBox3sWidget(HbFieldEditorCommandManager *manager, QWidget *parent, const char *name,
                                  Qt::WindowFlags flags)
     : HbPopupWidget(manager, rows, columns, parent, name ? name : "HbSFBox3sWidget", flags)
 {
-    setValidator(1);
+    setValidator(GridValidators::short16);
 }
 
 HbSFBox3sWidget::~HbSFBox3sWidget() = default;

@@ -4,9 +4,9 @@
 #include <HbSFColorWidget.h>
 
 #include "Components.h"
+#include "support/ColorChoice.h"
 #include "support/FieldWatch.h"
 
-#include <QColorDialog>
 #include <QPushButton>
 
 #include <Inventor/fields/SoSFColor.h>
@@ -114,15 +114,8 @@ void HbSFColorWidget::changeBValue(const QString &str)
 void HbSFColorWidget::getColorEditor()
 {
     const QPointer<HbSFColorWidget> self(this);
-    const QColor initial = workingColor();
-    // not QColorDialog::getColor(): its dialog lives on the stack and would be deleted with this widget
-    const QPointer<QColorDialog> dialog(new QColorDialog(initial.isValid() ? initial : QColor(Qt::black), this));
-    dialog->exec();
-    if (!self || !dialog)
-        return;
-    const QColor chosen = dialog->selectedColor();
-    delete dialog;
-    if (!chosen.isValid())
+    const QColor chosen = chooseColor(workingColor(), this);
+    if (!self || !chosen.isValid())
         return;
     const auto component = [](int level) { return static_cast<float>(level) / static_cast<float>(whole); };
     // the texts set the working colour, to 6 digits

@@ -4,6 +4,7 @@
 #include <HbSFMatrixWidget.h>
 
 #include "support/FieldWatch.h"
+#include "support/GridValidators.h"
 #include "support/NumberText.h"
 
 #include <QLineEdit>
@@ -20,14 +21,14 @@ HbSFMatrixWidget::HbSFMatrixWidget(const char *label, HbFieldEditorCommandManage
                                    const char *name, Qt::WindowFlags flags)
     : HbPopupWidget(label, manager, rows, columns, parent, name ? name : "HbSFMatrixWidget", flags)
 {
-    setValidator(3);
+    setValidator(GridValidators::real6);
 }
 
 HbSFMatrixWidget::HbSFMatrixWidget(HbFieldEditorCommandManager *manager, QWidget *parent, const char *name,
                                    Qt::WindowFlags flags)
     : HbPopupWidget(manager, rows, columns, parent, name ? name : "HbSFMatrixWidget", flags)
 {
-    setValidator(3);
+    setValidator(GridValidators::real6);
 }
 
 HbSFMatrixWidget::~HbSFMatrixWidget() = default;

@@ -1,0 +1,40 @@
+// SPDX-FileCopyrightText: 2026 The HarborAPI authors
+// SPDX-License-Identifier: BSD-3-Clause
+
+#ifndef HBMFDEFAULTFIELDWIDGET_H
+#define HBMFDEFAULTFIELDWIDGET_H
+
+#include <HbMFieldWidget.h>
+
+#include <Inventor/SbString.h>
+
+class RowTextCache;
+
+/// Edits any field of many values as text, where no other editor is made for its type.
+class HARBORAPI_EXPORT HbMFDefaultFieldWidget : public HbMFieldWidget
+{
+public:
+    HbMFDefaultFieldWidget(HbFieldEditorCommandManager *commandManager, QWidget *parent, const char *name,
+                           Qt::WindowFlags flags);
+    HbMFDefaultFieldWidget(const char *fieldType, HbFieldEditorCommandManager *commandManager, QWidget *parent,
+                           const char *name, Qt::WindowFlags flags);
+    ~HbMFDefaultFieldWidget() override;
+
+    bool checkField(SoField *field) override;
+    QString getFieldValue(int row, int col) const override;
+    QString getCellText(int row, int col, int limit) const override;
+    void set1Value(int row, int col, QString text) override;
+    void swapRows(int first, int second) override;
+
+    /// The value as text; empty outside the field.
+    virtual SbString getSingleFieldValue(int row, int col) const;
+    /// Writes a value; outside the field nothing.
+    virtual void setSingleFieldValue(SbString value, int row, int col);
+
+private:
+    void initClass();
+
+    std::unique_ptr<RowTextCache> m_texts;
+};
+
+#endif

@@ -1,0 +1,81 @@
+// SPDX-FileCopyrightText: 2026 The HarborAPI authors
+// SPDX-License-Identifier: BSD-3-Clause
+
+#include <HbMFMatrixWidget.h>
+
+#include "MFieldAccess.h"
+#include "VectorTable.h"
+#include "support/CoinText.h"
+#include "support/GridValidators.h"
+#include "support/RowTextCache.h"
+
+#include <HbTablePopupLineEdit.h>
+
+#include <Inventor/SbMatrix.h>
+#include <Inventor/fields/SoMFMatrix.h>
+
+namespace
+{
+constexpr int side = 4;
+constexpr int elements = side * side;
+} // namespace
+
+HbMFMatrixWidget::HbMFMatrixWidget(const char *fieldType, HbFieldEditorCommandManager *commandManager, QWidget *parent,
+                                   const char *name, Qt::WindowFlags flags)
+    : HbTablePopupWidget(fieldType, commandManager, side, side, parent, name ? name : "HbMFMatrixWidget", flags),
+      m_text(std::make_unique<RowTextCache>())
+{
+    setValidator(GridValidators::real6);
+}
+
+HbMFMatrixWidget::HbMFMatrixWidget(HbFieldEditorCommandManager *commandManager, QWidget *parent, const char *name,
+                                   Qt::WindowFlags flags)
+    : HbMFMatrixWidget(nullptr, commandManager, parent, name, flags)
+{
+}
+
+HbMFMatrixWidget::~HbMFMatrixWidget() = default;
+
+bool HbMFMatrixWidget::checkField(SoField *field)
+{
+    return VectorTable::accepts<SoMFMatrix>(field);
+}
+
+QString HbMFMatrixWidget::getFieldValue(int row, int col) const
+{
+    SoMField *const field = editedField();
+    if (!field || !RowValues::contains(*field, row) || col != 0)
+        return {};
+    constexpr int wholeField = -1;
+    return m_text->text(*field, wholeField, [field] { return CoinText::ofField(*field); });
+}
+
+QString HbMFMatrixWidget::getPopupValue(int row, int index)
+{
+    const auto *const matrices = fieldAs<SoMFMatrix>();
+    if (!matrices || !RowValues::contains(*matrices, row) || index < 0 || index >= elements)
+        return {};
+    const int element = index < side ? index * side : index;
+    return NumberText::fromFloat((*matrices)[row].getValue()[element / side][element % side]);
+}
+
+void HbMFMatrixWidget::set1Value(int row, int, QString)
+{
+    auto *const matrices = fieldAs<SoMFMatrix>();
+    if (!matrices || !RowValues::contains(*matrices, row))
+        return;
+    SbMatrix value = (*matrices)[row];
+    for (std::size_t i = 0; i < elements; ++i) {
+        const QString text = m_popupEdits[i]->text();
+        if (text == m_filledTexts[i])
+            continue; // with the bits that its text does not tell
+        value[static_cast<int>(i) / side][static_cast<int>(i) % side] = NumberText::toFloat(text);
+        m_filledTexts[i] = text;
+    }
+    matrices->set1Value(row, value);
+}
+
+void HbMFMatrixWidget::swapRows(int first, int second)
+{
+    VectorTable::swap(editedField(), first, second);
+}

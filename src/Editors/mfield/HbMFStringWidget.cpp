@@ -1,0 +1,79 @@
+// SPDX-FileCopyrightText: 2026 The HarborAPI authors
+// SPDX-License-Identifier: BSD-3-Clause
+
+#include <HbMFStringWidget.h>
+
+#include "MFieldAccess.h"
+#include "VectorTable.h"
+#include "support/CoinText.h"
+
+#include <Inventor/fields/SoMFString.h>
+
+#include <limits>
+
+HbMFStringWidget::HbMFStringWidget(const char *fieldType, HbFieldEditorCommandManager *commandManager, QWidget *parent,
+                                   const char *name, Qt::WindowFlags flags)
+    : HbMFieldWidget(fieldType, commandManager, parent, name ? name : "HbMFStringWidget", flags)
+{
+    initClass();
+}
+
+HbMFStringWidget::HbMFStringWidget(HbFieldEditorCommandManager *commandManager, QWidget *parent, const char *name,
+                                   Qt::WindowFlags flags)
+    : HbMFStringWidget(nullptr, commandManager, parent, name, flags)
+{
+}
+
+HbMFStringWidget::~HbMFStringWidget() = default;
+
+void HbMFStringWidget::initClass()
+{
+    m_table->setColumnCount(1);
+    m_table->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
+    m_table->setNumRows(0);
+}
+
+bool HbMFStringWidget::checkField(SoField *field)
+{
+    return VectorTable::accepts<SoMField>(field);
+}
+
+QString HbMFStringWidget::getFieldValue(int row, int col) const
+{
+    return getCellText(row, col, std::numeric_limits<int>::max() / 4);
+}
+
+QString HbMFStringWidget::getCellText(int row, int col, int limit) const
+{
+    SoMField *const field = editedField();
+    if (!field || col != 0)
+        return {};
+    const bool isString = field->isOfType(SoMFString::getClassTypeId());
+    return isString ? RowValues::startOfString(*field, row, limit) : RowValues::startOfText(*field, row, limit);
+}
+
+void HbMFStringWidget::set1Value(int row, int col, QString text)
+{
+    setSingleFieldValue(CoinText::toSbString(text), row, col);
+}
+
+SbString HbMFStringWidget::getSingleFieldValue(int row, int col) const
+{
+    return CoinText::toSbString(getFieldValue(row, col));
+}
+
+void HbMFStringWidget::setSingleFieldValue(SbString value, int row, int)
+{
+    SoMField *const field = editedField();
+    if (!field || !RowValues::contains(*field, row))
+        return;
+    if (auto *const strings = fieldAs<SoMFString>())
+        strings->set1Value(row, value); // not parsed: quotes are part of it
+    else
+        field->set1(row, value.getString());
+}
+
+void HbMFStringWidget::swapRows(int first, int second)
+{
+    VectorTable::swap(editedField(), first, second);
+}

@@ -1,0 +1,22 @@
+// SPDX-FileCopyrightText: 2026 The HarborAPI authors
+// SPDX-License-Identifier: BSD-3-Clause
+
+#include <HbTablePopupLineEdit.h>
+
+#include <HbTablePopupWidget.h>
+
+HbTablePopupLineEdit::HbTablePopupLineEdit(int index, HbTablePopupWidget *owner, QWidget *parent, const char *name)
+    : QLineEdit(parent), m_owner(owner)
+{
+    setAlignment(Qt::AlignLeft);
+    setAccessibleName(tr("Component %1").arg(index + 1));
+    if (name)
+        setObjectName(QString::fromUtf8(name));
+}
+
+HbTablePopupLineEdit::~HbTablePopupLineEdit() = default;
+
+void HbTablePopupLineEdit::setCurrentValue(QString)
+{
+    m_owner->reportPopupEdit();
+}
