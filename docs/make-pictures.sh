@@ -49,6 +49,12 @@ grab Row numElements1=HbSFShortWidget
 grab Tower height=HbSFFloatWidget parts=HbSFBitMaskWidget
 grab Sample mask=HbSFUInt32Widget bounds=HbSFBox3sWidget duration=HbSFLineWidget
 
+grab Points point=HbMFVec3fWidget
+grab Faces coordIndex=HbMFInt32Widget
+grab Look diffuseColor=HbMFColorWidget shininess=HbMFFloatWidget
+grab Sign string=HbMFStringWidget
+grab Lists poses=HbMFMatrixWidget turns=HbMFDefaultFieldWidget
+
 QT_QPA_PLATFORM=xcb xvfb-run -a -s "-screen 0 1600x1000x24 +extension GLX" \
     "$nodescope" --size 1400x850 --select Sun --screenshot docs/images/nodescope.png examples/scenes/harbour.iv
 

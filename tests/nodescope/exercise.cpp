@@ -13,8 +13,11 @@
 #include "tools/nodescope/ScenePath.h"
 
 #include <HbFieldEditors.h>
+#include <HbMFieldTable.h>
 #include <HbPopupWidget.h>
 #include <HbSFRotationWidget.h>
+#include <HbTablePopupLineEdit.h>
+#include <HbTablePopupWidget.h>
 
 #include <QApplication>
 #include <QCheckBox>
@@ -91,6 +94,26 @@ void clickAll(const QList<QCheckBox *> &boxes)
             box->click();
 }
 
+/// Adds a row, edits a cell of it, moves it up and removes another.
+void changeTable(HbFieldEditors *editor, HbMFieldTable *table)
+{
+    table->setCurrentCell(table->rowCount() - 1, 0);
+    editor->findChild<QPushButton *>("m_addButton")->click();
+    table->setCurrentCell(table->rowCount() - 1, table->columnCount() - 1);
+    if (dynamic_cast<HbTablePopupWidget *>(editor)) {
+        editor->findChild<QPushButton *>("m_editButton")->click();
+        type(editor->findChild<HbTablePopupLineEdit *>());
+        editor->findChild<QPushButton *>("m_editButton")->click();
+    } else {
+        QTest::keyClick(table, Qt::Key_F2);
+        if (auto *const cell = table->viewport()->findChild<QLineEdit *>())
+            type(cell);
+        qApp->processEvents(); // Qt closes the editor then
+    }
+    editor->findChild<QPushButton *>("m_upButton")->click();
+    editor->findChild<QPushButton *>("m_deleteButton")->click();
+}
+
 /// Changes the value by the editor's own controls; false where it has none.
 bool change(HbFieldEditors *editor)
 {
@@ -98,6 +121,8 @@ bool change(HbFieldEditors *editor)
         editor->findChild<QPushButton *>("m_editButton")->click();
         type(editor->findChild<QLineEdit *>("popupEdit_1_2"));
         QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape);
+    } else if (auto *const table = editor->findChild<HbMFieldTable *>()) {
+        changeTable(editor, table);
     } else if (dynamic_cast<HbSFRotationWidget *>(editor)) {
         const auto edits = editor->findChildren<QLineEdit *>();
         retype(edits[0], edits[0]->text() == "1" ? "2" : "1"); // an axis, as the angle may be 0 and the axis too

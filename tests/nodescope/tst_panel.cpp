@@ -8,8 +8,10 @@
 #include "tools/nodescope/Options.h"
 
 #include <QCheckBox>
+#include <QElapsedTimer>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QTableWidget>
 
 #include <Inventor/lists/SoTypeList.h>
 #include <Inventor/nodes/SoCoordinate3.h>
@@ -157,12 +159,14 @@ void PanelTest::largeValues()
     Ref<SoCoordinate3> points;
     points->point.setNum(1000000);
     m_panel->setNode(points);
-    QVERIFY(control<QLineEdit>("Coordinate3.point")->text().startsWith("(1000000) "));
+    QCOMPARE(control<QTableWidget>("Coordinate3.point")->rowCount(), 1000000);
     Ref<SoText2> text;
     text->string = QByteArray(10 * 1000 * 1000, 'x').constData();
+    QElapsedTimer time;
+    time.start();
     m_panel->setNode(text);
-    QVERIFY(control<QLineEdit>("Text2.string")->text().startsWith("\"xxx"));
-    QVERIFY(control<QLineEdit>("Text2.string")->text().size() < 1000);
+    m_panel->grab();
+    QVERIFY2(time.elapsed() < 500, qPrintable(QString::number(time.elapsed())));
 }
 
 void PanelTest::pictures()

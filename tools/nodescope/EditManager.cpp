@@ -6,7 +6,9 @@
 #include "EditorTable.h"
 #include "FieldCommand.h"
 #include "FieldText.h"
+#include "IgnoreCommand.h"
 #include "UntouchedParts.h"
+#include "WriteWatch.h"
 
 #include <HbFieldEditors.h>
 #include <HbSFBitMaskWidget.h>
@@ -19,32 +21,9 @@
 #include <QUndoStack>
 
 #include <Inventor/SbString.h>
-#include <Inventor/fields/SoFieldContainer.h>
-#include <Inventor/fields/SoMField.h>
-#include <Inventor/sensors/SoFieldSensor.h>
+#include <Inventor/fields/SoField.h>
 
 #include <utility>
-
-namespace
-{
-/// Hears whether a field is written. Coin's parsers refuse a text in silence and may have stored half of it.
-class WriteWatch : public SoFieldSensor
-{
-public:
-    explicit WriteWatch(SoField &field) : SoFieldSensor(nullptr, nullptr)
-    {
-        const SoFieldContainer *const container = field.getContainer();
-        m_written = !field.isNotifyEnabled() || (container && !container->isNotifyEnabled()); // else nobody would know
-        attach(&field);
-    }
-
-    bool isWritten() const { return m_written; }
-    void notify(SoNotList *) override { m_written = true; }
-
-private:
-    bool m_written;
-};
-} // namespace
 
 EditManager::EditManager(QUndoStack *stack, QObject *parent)
     : HbFieldEditorCommandManager(parent), m_stack(stack), m_series(FieldCommand::newSeries())
@@ -117,12 +96,6 @@ bool EditManager::refuse(const FieldSnapshot &before)
     refresh();
     Q_EMIT message(obstacle);
     return true;
-}
-
-void EditManager::edit(const std::function<void()> &write)
-{
-    if (isListening())
-        edit(FieldSnapshot(*m_field), write);
 }
 
 void EditManager::edit(const FieldSnapshot &before, const std::function<void()> &write)
@@ -202,48 +175,21 @@ void EditManager::fieldSetIgnored(bool ignored)
 {
     if (!isListening() || bool(m_field->isIgnored()) == ignored)
         return;
-    const FieldSnapshot before(*m_field);
     m_field->setIgnored(ignored); // Coin notifies, so the picture follows
-    m_stack->push(new FieldCommand(*m_field, before, FieldSnapshot(*m_field), FieldCommand::noSeries));
+    m_stack->push(new IgnoreCommand(*m_field));
     refresh();
 }
 
-void EditManager::mfieldSwapRows(int first, int second)
+// A field of one value has no rows.
+void EditManager::mfieldSwapRows(int, int) { }
+void EditManager::mfieldSwapColumns(int, int) { }
+void EditManager::mfieldDeleteRows(int, int) { }
+void EditManager::mfieldAddRows(int, int) { }
+void EditManager::mfieldSet1Value(int, int, QString, SbString *previousData)
 {
-    edit([=] { m_editor->swapRows(first, second); });
+    delete previousData;
 }
-
-void EditManager::mfieldSwapColumns(int first, int second)
-{
-    edit([=] { m_editor->swapColumns(first, second); });
-}
-
-void EditManager::mfieldDeleteRows(int topRow, int numValues)
-{
-    edit([=] {
-        if (m_field->isOfType(SoMField::getClassTypeId()))
-            static_cast<SoMField *>(m_field)->deleteValues(topRow, numValues);
-    });
-}
-
-void EditManager::mfieldAddRows(int row, int numRows)
-{
-    edit([=] {
-        if (m_field->isOfType(SoMField::getClassTypeId()))
-            static_cast<SoMField *>(m_field)->insertSpace(row, numRows);
-    });
-}
-
-void EditManager::mfieldSet1Value(int row, int col, QString text, SbString *previousData)
-{
-    const std::unique_ptr<SbString> owned(previousData);
-    edit([=] { m_editor->set1Value(row, col, text); });
-}
-
-void EditManager::mfieldSetValue(int row, const void *data)
-{
-    edit([=] { m_editor->setValue(row, data); });
-}
+void EditManager::mfieldSetValue(int, const void *) { }
 
 void EditManager::remember()
 {

@@ -34,11 +34,13 @@ public:
     explicit EditManager(QUndoStack *stack, QObject *parent = nullptr);
 
     /// The editor that was created with this manager; once.
-    void setEditor(HbFieldEditors *editor);
+    virtual void setEditor(HbFieldEditors *editor);
     /// The field must outlive its stay here. Shows nothing until refresh().
-    void setField(SoField *field);
+    virtual void setField(SoField *field);
     /// Shows the field's value; commands that come of it are not edits.
-    void refresh();
+    virtual void refresh();
+    /// Commits what is being edited where no control of the editor itself would.
+    virtual void finish() { }
 
     /// Whether a mouse button holds the slider.
     bool isHeld() const { return m_hold.has_value(); }
@@ -59,11 +61,16 @@ Q_SIGNALS:
     /// Something the user should know, in one sentence.
     void message(const QString &text);
 
-private:
+protected:
+    /// Whether commands are edits.
     bool isListening() const;
+    HbFieldEditors *editor() const { return m_editor; }
+    SoField *field() const { return m_field; }
+    QUndoStack *stack() const { return m_stack; }
+
+private:
     bool refuse(const FieldSnapshot &before);
     void edit(const FieldSnapshot &before, const std::function<void()> &write);
-    void edit(const std::function<void()> &write);
     void record(const FieldSnapshot &before, int series, const std::vector<FieldState> &images = {});
 
     void remember();

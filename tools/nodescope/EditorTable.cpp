@@ -7,6 +7,20 @@
 #include "ValueText.h"
 
 #include <HbIntSlider.h>
+#include <HbMFColorWidget.h>
+#include <HbMFDefaultFieldWidget.h>
+#include <HbMFFloatWidget.h>
+#include <HbMFInt32Widget.h>
+#include <HbMFMatrixWidget.h>
+#include <HbMFPlaneWidget.h>
+#include <HbMFShortWidget.h>
+#include <HbMFStringWidget.h>
+#include <HbMFUInt32Widget.h>
+#include <HbMFUShortWidget.h>
+#include <HbMFVec2fWidget.h>
+#include <HbMFVec2sWidget.h>
+#include <HbMFVec3fWidget.h>
+#include <HbMFVec4fWidget.h>
 #include <HbRangeSettings.h>
 #include <HbRealSlider.h>
 #include <HbSFBitMaskWidget.h>
@@ -76,11 +90,54 @@ HbFieldEditors *text(SoField &, const char *label, const HbRangeComponent &, Man
     return new ValueText(label, parent);
 }
 
+/// Shows each matrix as it reads: the library's grid shows the first elements of the rows in its first line.
+class ReadableMatrices : public HbMFMatrixWidget
+{
+public:
+    using HbMFMatrixWidget::HbMFMatrixWidget;
+
+    QString getFieldValue(int row, int col) const override
+    {
+        const SoMField *const matrices = editedField();
+        if (!matrices || row < 0 || row >= matrices->getNum() || col != 0)
+            return {};
+        QStringList numbers;
+        for (int i = 0; i < 16; ++i)
+            numbers += element(row, i);
+        return numbers.join(QLatin1Char(' '));
+    }
+    QString getPopupValue(int row, int index) override
+    {
+        const SoMField *const matrices = editedField();
+        return matrices && row >= 0 && row < matrices->getNum() ? element(row, index) : QString();
+    }
+
+private:
+    QString element(int row, int index) const
+    {
+        const SbMatrix &matrix = (*static_cast<const SoMFMatrix *>(editedField()))[row];
+        return QString::number(static_cast<double>(matrix[index / 4][index % 4]), 'g', 6);
+    }
+};
+
 constexpr char realRow[] = "floatField";
 constexpr char integerRow[] = "intField";
 
 // A fixed range would empty the slider of an unsigned number.
 constexpr EditorKind kinds[] = {
+    {SoMFFloat::getClassTypeId, ranged<HbMFFloatWidget>, realRow, true},
+    {SoMFMatrix::getClassTypeId, plain<ReadableMatrices>, nullptr, false},
+    {SoMFColor::getClassTypeId, plain<HbMFColorWidget>, nullptr, false},
+    {SoMFInt32::getClassTypeId, plain<HbMFInt32Widget>, nullptr, false},
+    {SoMFPlane::getClassTypeId, plain<HbMFPlaneWidget>, nullptr, false},
+    {SoMFShort::getClassTypeId, plain<HbMFShortWidget>, nullptr, false},
+    {SoMFString::getClassTypeId, plain<HbMFStringWidget>, nullptr, false},
+    {SoMFUInt32::getClassTypeId, plain<HbMFUInt32Widget>, nullptr, false},
+    {SoMFUShort::getClassTypeId, plain<HbMFUShortWidget>, nullptr, false},
+    {SoMFVec2f::getClassTypeId, plain<HbMFVec2fWidget>, nullptr, false},
+    {SoMFVec2s::getClassTypeId, plain<HbMFVec2sWidget>, nullptr, false},
+    {SoMFVec3f::getClassTypeId, plain<HbMFVec3fWidget>, nullptr, false},
+    {SoMFVec4f::getClassTypeId, plain<HbMFVec4fWidget>, nullptr, false},
     {SoSFBitMask::getClassTypeId, bits, nullptr, false},
     {SoSFBool::getClassTypeId, plain<HbSFBoolWidget>, nullptr, false},
     {SoSFBox3s::getClassTypeId, plain<HbSFBox3sWidget>, nullptr, false},
@@ -103,6 +160,7 @@ constexpr EditorKind kinds[] = {
     {SoSFVec4f::getClassTypeId, plain<HbSFVec4fWidget>, nullptr, false},
 };
 constexpr EditorKind anySingleValue = {nullptr, plain<HbSFLineWidget>, nullptr, false};
+constexpr EditorKind anyValues = {nullptr, plain<HbMFDefaultFieldWidget>, nullptr, false};
 constexpr EditorKind tooLong = {nullptr, text, nullptr, false};
 
 bool intersects(const SoSFEnum &mask, const QString &wanted)
@@ -125,8 +183,9 @@ const EditorKind &EditorTable::kindFor(const SoField &field)
     const bool isNameless = field.isOfType(SoSFEnum::getClassTypeId()) && choices(field).isEmpty();
     if (found != std::end(kinds) && !isNameless)
         return *found;
-    const bool fitsALine = field.isOfType(SoSField::getClassTypeId()) && !isLong(field);
-    return fitsALine ? anySingleValue : tooLong;
+    if (isLong(field))
+        return tooLong;
+    return field.isOfType(SoSField::getClassTypeId()) ? anySingleValue : anyValues;
 }
 
 QStringList EditorTable::choices(const SoField &field)

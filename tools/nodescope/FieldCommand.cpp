@@ -91,8 +91,6 @@ void FieldCommand::describe()
     const QString name = FieldText::qualifiedName(m_field);
     if (!m_before.isSameValue(m_after))
         setText(QStringLiteral("%1: %2 %3 %4").arg(name, m_before.text(), QChar(0x2192), m_after.text()));
-    else if (m_before.isIgnored() != m_after.isIgnored())
-        setText((m_after.isIgnored() ? translated("%1: ignore") : translated("%1: do not ignore")).arg(name));
     else
         setText(translated("%1: set to default").arg(name));
 }

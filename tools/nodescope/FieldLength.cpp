@@ -21,8 +21,13 @@ public:
     void add(const SoField &field)
     {
         --m_left;
-        if (field.isOfType(SoMField::getClassTypeId()))
-            m_left -= static_cast<const SoMField &>(field).getNum();
+        if (field.isOfType(SoMField::getClassTypeId()) && m_isInside)
+            m_left -= static_cast<const SoMField &>(field).getNum(); // the rows of a table are read when they show
+        if (field.isOfType(SoMFNode::getClassTypeId())) {
+            const auto &nodes = static_cast<const SoMFNode &>(field);
+            for (int i = 0; i < nodes.getNum() && !isExceeded(); ++i)
+                add(nodes[i]);
+        }
         if (field.isOfType(SoSFNode::getClassTypeId()))
             add(static_cast<const SoSFNode &>(field).getValue());
         else if (field.isOfType(SoSFEngine::getClassTypeId()))
@@ -48,6 +53,7 @@ private:
     {
         if (!container || isExceeded())
             return;
+        m_isInside = true;
         SoFieldList fields;
         const int count = container->getFields(fields);
         for (int i = 0; i < count && !isExceeded(); ++i)
@@ -60,6 +66,7 @@ private:
     }
 
     long m_left = 200;
+    bool m_isInside = false; ///< of the nodes that the field refers to
 };
 } // namespace
 

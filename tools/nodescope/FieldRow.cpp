@@ -6,6 +6,7 @@
 #include "EditManager.h"
 #include "EditorTable.h"
 #include "FieldText.h"
+#include "TableManager.h"
 
 #include <HbFieldEditors.h>
 #include <HbRangeComponent.h>
@@ -19,6 +20,7 @@
 
 #include <Inventor/fields/SoField.h>
 #include <Inventor/fields/SoFieldContainer.h>
+#include <Inventor/fields/SoMField.h>
 
 #include <algorithm>
 
@@ -32,12 +34,19 @@ SbName nameOf(const SoField &field)
     field.getContainer()->getFieldName(&field, name);
     return name;
 }
+
+EditManager *newManager(const SoField &field, QUndoStack *stack, QObject *parent)
+{
+    if (field.isOfType(SoMField::getClassTypeId()))
+        return new TableManager(stack, parent);
+    return new EditManager(stack, parent);
+}
 } // namespace
 
 FieldRow::FieldRow(SoField &field, QUndoStack *stack, QWidget *parent)
     : QObject(parent), m_field(&field), m_type(field.getTypeId()), m_name(nameOf(field)),
       m_kind(EditorTable::kindFor(field)), m_choices(EditorTable::choices(field)),
-      m_manager(new EditManager(stack, this)),
+      m_manager(newManager(field, stack, this)),
       m_editor(m_kind.create(field, m_name.getString(), EditorTable::rangeFor(m_kind, field), m_manager, parent)),
       m_label(m_editor->findChild<QLabel *>(QStringLiteral("m_label"))), m_edits(m_editor->findChildren<QLineEdit *>())
 {
@@ -51,11 +60,14 @@ FieldRow::FieldRow(SoField &field, QUndoStack *stack, QWidget *parent)
 
 void FieldRow::adoptControls()
 {
+    if (const auto *const access = m_editor->findChild<QSpinBox *>(QStringLiteral("m_accessBox")))
+        m_edits.removeAll(access->findChild<QLineEdit *>()); // it edits nothing
     for (QLineEdit *const edit : std::as_const(m_edits))
         edit->installEventFilter(this);
     const auto spins = m_editor->findChildren<QSpinBox *>();
     for (QSpinBox *const spin : spins)
-        spin->setKeyboardTracking(false); // one step for a number, not for each of its digits
+        spin->setKeyboardTracking(spin->objectName()
+                                  == QLatin1String("m_accessBox")); // one step for a number, not for each of its digits
 }
 
 void FieldRow::nameControls()
@@ -100,12 +112,16 @@ void FieldRow::finish()
         if (edit->isModified() && edit->hasAcceptableInput())
             Q_EMIT edit->editingFinished();
     }
+    m_manager->finish();
     commitWhole();
 }
 
 /// For editors whose edits do not commit one by one: a rotation is left as a whole.
 void FieldRow::commitWhole()
 {
+    const auto isModified = [](const QLineEdit *edit) { return edit->isModified(); };
+    if (std::none_of(m_edits.begin(), m_edits.end(), isModified))
+        return; // Qt would paint the editor again
     QFocusEvent leaving(QEvent::FocusOut);
     QCoreApplication::sendEvent(m_editor, &leaving);
 }

@@ -1,0 +1,252 @@
+// SPDX-FileCopyrightText: 2026 The HarborAPI authors
+// SPDX-License-Identifier: BSD-3-Clause
+
+#include "PanelFixture.h"
+
+#include "tools/nodescope/FieldRows.h"
+
+#include <HbMFieldTable.h>
+
+#include <QClipboard>
+#include <QColorDialog>
+#include <QPushButton>
+#include <QTimer>
+
+#include <Inventor/SoDB.h>
+#include <Inventor/fields/SoFields.h>
+#include <Inventor/nodes/SoCoordinate3.h>
+#include <Inventor/nodes/SoMaterial.h>
+#include <Inventor/nodes/SoSeparator.h>
+#include <Inventor/nodes/SoText2.h>
+
+#include <malloc.h>
+
+/// Fields of many values through the panel: one step an edit, taken back to the bit.
+class TestTables : public PanelFixture
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void everyCommandIsOneExactStep_data()
+    {
+        QTest::addColumn<QString>("command");
+        QTest::addColumn<QString>("result");
+        QTest::newRow("cell") << "cell"
+                              << "0 0 0, 1 0.33333334 9, 2 2 2, 3 3 3";
+        QTest::newRow("add") << "add"
+                             << "0 0 0, 1 0.33333334 1, 0 0 0, 2 2 2, 3 3 3";
+        QTest::newRow("delete") << "delete"
+                                << "0 0 0, 2 2 2, 3 3 3";
+        QTest::newRow("delete several") << "several"
+                                        << "0 0 0, 3 3 3";
+        QTest::newRow("up") << "up"
+                            << "1 0.33333334 1, 0 0 0, 2 2 2, 3 3 3";
+        QTest::newRow("down") << "down"
+                              << "0 0 0, 2 2 2, 1 0.33333334 1, 3 3 3";
+        QTest::newRow("columns") << "columns"
+                                 << "0 0 0, 0.33333334 1 1, 2 2 2, 3 3 3";
+        QTest::newRow("paste") << "paste"
+                               << "0 0 0, 1 5 6, 2 7 8, 3 3 3";
+        QTest::newRow("paste beyond the end") << "paste beyond"
+                                              << "0 0 0, 1 0.33333334 1, 2 2 2, 5 6 3, 7 8 0";
+    }
+
+    void everyCommandIsOneExactStep()
+    {
+        QFETCH(QString, command);
+        const Ref<SoCoordinate3> points;
+        const float values[4][3] = {{0, 0, 0}, {1, 1 / 3.0f, 1}, {2, 2, 2}, {3, 3, 3}};
+        points->point.setValues(0, 4, values);
+        m_panel->setNode(points);
+        const QByteArray before = saved(points);
+        const auto copy = FieldRows::copy(points->point, 0, 4);
+        run(command);
+        QTEST(written(points->point), "result");
+        QCOMPARE(m_stack->count(), 1);
+        QCOMPARE(table()->rowCount(), points->point.getNum());
+        m_stack->undo();
+        QCOMPARE(saved(points), before);
+        QVERIFY(FieldRows::areSame(points->point, *copy));
+        m_stack->redo();
+        QTEST(written(points->point), "result");
+        QCoreApplication::processEvents();
+        QCOMPARE(table()->rowCount(), points->point.getNum());
+    }
+
+    void defaultsComeBackAsDefaults()
+    {
+        const Ref<SoMaterial> material;
+        m_panel->setNode(material);
+        const QByteArray before = saved(material);
+        type(control<HbMFieldTable>("Material.shininess"), 0, 0, "0.5");
+        type(control<HbMFieldTable>("Material.diffuseColor"), 0, 2, "0.25");
+        QCOMPARE(material->diffuseColor[0][1], 0.25f);
+        type(control<HbMFieldTable>("Material.diffuseColor"), 0, 2, "1.5"); // no component of a colour
+        QCOMPARE(m_stack->count(), 2);
+        m_stack->setIndex(0);
+        QCOMPARE(saved(material), before);
+    }
+
+    void pickedColourIsOneStep()
+    {
+        const Ref<SoMaterial> material;
+        m_panel->setNode(material);
+        QTimer::singleShot(0, [] {
+            auto *const dialog = qobject_cast<QColorDialog *>(QApplication::activeModalWidget());
+            dialog->setCurrentColor(Qt::red);
+            dialog->accept();
+        });
+        Q_EMIT control<HbMFieldTable>("Material.diffuseColor")->cellClicked(0, 0);
+        QVERIFY(material->diffuseColor[0] == SbColor(1, 0, 0));
+        QCOMPARE(m_stack->count(), 1);
+    }
+
+    void cellsOpenWithWhatTheyShow()
+    {
+        const Ref<SoText2> text;
+        text->string = "old";
+        m_panel->setNode(text);
+        QCOMPARE(openCell(table(), 0, 0)->text(), QStringLiteral("old"));
+        m_panel->setNode(*m_cone); // which closes it
+        text->string = "new";
+        m_panel->setNode(text);
+        QCOMPARE(openCell(table(), 0, 0)->text(), QStringLiteral("new"));
+    }
+
+    void sliderInACellRecordsItsSteps()
+    {
+        const Ref<SoMaterial> material;
+        material->shininess = 1 / 3.0f;
+        m_panel->setNode(material);
+        auto *const shininess = control<HbMFieldTable>("Material.shininess");
+        openCell(shininess, 0, 0);
+        auto *const slider = shininess->findChild<QSlider *>();
+        QCoreApplication::processEvents();
+        slider->setSliderDown(true);
+        for (const int position : {40, 60, 80})
+            slider->setSliderPosition(position);
+        slider->setSliderDown(false);
+        QCOMPARE(m_stack->count(), 1);
+        slider->triggerAction(QSlider::SliderSingleStepAdd);
+        slider->triggerAction(QSlider::SliderSingleStepAdd);
+        QCOMPARE(m_stack->count(), 2); // the steps by key are one
+        m_stack->undo();
+        m_stack->undo();
+        QCOMPARE(material->shininess[0], 1 / 3.0f);
+    }
+
+    void copiesForSpreadsheets()
+    {
+        const Ref<SoCoordinate3> points;
+        const float values[2][3] = {{1, 2, 3}, {4, 5, 6}};
+        points->point.setValues(0, 2, values);
+        m_panel->setNode(points);
+        table()->setSelectionMode(QAbstractItemView::ContiguousSelection);
+        table()->selectAll();
+        QTest::keyClick(table(), Qt::Key_C, Qt::ControlModifier);
+        QCOMPARE(QApplication::clipboard()->text(), QStringLiteral("1\t2\t3\n4\t5\t6"));
+    }
+
+    void aMillionValuesCostWhatIsChanged()
+    {
+        const Ref<SoCoordinate3> points;
+        points->point.setNum(1000000);
+        float *const numbers = reinterpret_cast<float *>(points->point.startEditing());
+        for (int i = 0; i < 3000000; ++i)
+            numbers[i] = float(i);
+        points->point.finishEditing();
+        m_panel->setNode(points);
+        const size_t before = mallinfo2().uordblks;
+        for (int i = 0; i < 10; ++i)
+            type(table(), 500000 + i, 1, QString::number(i));
+        QCOMPARE(m_stack->count(), 10);
+        QVERIFY2(mallinfo2().uordblks - before < 1000000, qPrintable(QString::number(mallinfo2().uordblks - before)));
+        m_stack->setIndex(0);
+        QCOMPARE(points->point[500005][1], 1500016.0f);
+    }
+
+    void everyTypeHasItsEditor()
+    {
+        const QByteArrayList typed{"Color",  "Float",  "Int32", "Matrix", "Plane", "Short", "String",
+                                   "UInt32", "UShort", "Vec2f", "Vec2s",  "Vec3f", "Vec4f"};
+        SoTypeList types;
+        SoType::getAllDerivedFrom(SoMField::getClassTypeId(), types);
+        for (int i = 0; i < types.getLength(); ++i) {
+            if (!types[i].canCreateInstance())
+                continue;
+            const QByteArray name = types[i].getName().getString();
+            const QByteArray text = "#Inventor V2.1 ascii\nOdd { fields [ " + name + " value ] }";
+            SoInput input;
+            input.setBuffer(text.constData(), size_t(text.size()));
+            SoNode *node = nullptr;
+            QVERIFY(SoDB::read(&input, node) && node);
+            const Ref<SoNode> odd(node);
+            m_panel->setNode(node);
+            auto *const field = static_cast<SoMField *>(node->getField("value"));
+            const QByteArray type = field->getTypeId().getName().getString() + 2; // not of an alias
+            const QString editor = typed.contains(type) ? "HbMF" + type + "Widget" : "HbMFDefaultFieldWidget";
+            QVERIFY2(m_panel->findChild<QFrame *>(editor), name.constData());
+            const int count = field->getNum();
+            m_panel->findChild<QPushButton *>("m_addButton")->click();
+            QCOMPARE(field->getNum(), count + 1);
+            m_stack->undo();
+            QCOMPARE(field->getNum(), count);
+            m_panel->setNode(nullptr);
+        }
+    }
+
+private:
+    HbMFieldTable *table() { return m_panel->findChild<HbMFieldTable *>(); }
+
+    void run(const QString &command)
+    {
+        const auto press = [this](const char *button) { m_panel->findChild<QPushButton *>(button)->click(); };
+        table()->setCurrentCell(1, 0);
+        if (command == "cell") {
+            type(table(), 1, 2, "9");
+        } else if (command == "several") {
+            QTest::keyPress(table(), Qt::Key_Shift);
+            table()->setRangeSelected({1, 0, 2, 2}, true);
+            QTest::keyClick(table(), Qt::Key_Delete, Qt::ShiftModifier);
+            QTest::keyRelease(table(), Qt::Key_Shift);
+        } else if (command == "columns") {
+            m_panel->findChild<HbFieldEditorCommandManager *>()->mfieldSwapColumns(0, 1);
+        } else if (command.startsWith("paste")) {
+            QApplication::clipboard()->setText("5\t6\n7\t8\n");
+            const bool beyond = command == "paste beyond";
+            table()->setCurrentCell(beyond ? 3 : 1, beyond ? 0 : 1);
+            QTest::keyClick(table(), Qt::Key_V, Qt::ControlModifier);
+        } else {
+            press(qPrintable("m_" + command + "Button"));
+        }
+    }
+
+    static QLineEdit *openCell(HbMFieldTable *table, int row, int column)
+    {
+        table->setCurrentCell(row, column);
+        QTest::keyClick(table, Qt::Key_F2);
+        return table->viewport()->findChild<QLineEdit *>();
+    }
+    static void type(HbMFieldTable *table, int row, int column, const QString &text)
+    {
+        QLineEdit *const edit = openCell(table, row, column);
+        retype(edit, text);
+        QTest::keyClick(edit, Qt::Key_Return);
+        QCoreApplication::processEvents(); // Qt closes the editor then
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+
+    static QString written(const SoMFVec3f &field)
+    {
+        QStringList rows;
+        for (int i = 0; i < field.getNum(); ++i)
+            rows += QStringLiteral("%1 %2 %3")
+                        .arg(double(field[i][0]), 0, 'g', 8)
+                        .arg(double(field[i][1]), 0, 'g', 8)
+                        .arg(double(field[i][2]), 0, 'g', 8);
+        return rows.join(QStringLiteral(", "));
+    }
+};
+
+QTEST_MAIN(TestTables)
+#include "tst_tables.moc"

@@ -1,0 +1,148 @@
+// SPDX-FileCopyrightText: 2026 The HarborAPI authors
+// SPDX-License-Identifier: BSD-3-Clause
+
+#include "FieldRows.h"
+
+#include "FieldSnapshot.h"
+
+#include <Inventor/SoPath.h>
+#include <Inventor/engines/SoEngine.h>
+#include <Inventor/fields/SoFields.h>
+#include <Inventor/nodes/SoNode.h>
+
+#include <algorithm>
+#include <cstring>
+#include <type_traits>
+#include <utility>
+
+namespace
+{
+template <class... Fields> struct Types {
+};
+using Vectors = Types<SoMFColor, SoMFColorRGBA, SoMFVec2b, SoMFVec2d, SoMFVec2f, SoMFVec2i32, SoMFVec2s, SoMFVec3b,
+                      SoMFVec3d, SoMFVec3f, SoMFVec3i32, SoMFVec3s, SoMFVec4b, SoMFVec4d, SoMFVec4f, SoMFVec4i32,
+                      SoMFVec4s, SoMFVec4ub, SoMFVec4ui32, SoMFVec4us>;
+using Others = Types<SoMFBool, SoMFDouble, SoMFEngine, SoMFEnum, SoMFFloat, SoMFInt32, SoMFMatrix, SoMFName, SoMFNode,
+                     SoMFPath, SoMFPlane, SoMFRotation, SoMFShort, SoMFString, SoMFTime, SoMFUInt32, SoMFUShort>;
+
+/// Calls @p visit with the field as what it is; false for a type from elsewhere.
+template <class Field, class... Fields, class Visit> bool visitAs(Types<Fields...>, Field &field, const Visit &visit)
+{
+    const auto tryOne = [&](auto *type) {
+        using Known = std::remove_pointer_t<decltype(type)>;
+        using Typed = std::conditional_t<std::is_const_v<Field>, const Known, Known>;
+        if (!field.isOfType(Known::getClassTypeId()))
+            return false;
+        visit(static_cast<Typed &>(field));
+        return true;
+    };
+    return (tryOne(static_cast<Fields *>(nullptr)) || ...);
+}
+
+template <class Field, class Visit> void visitAny(Field &field, const Visit &visit)
+{
+    if (!visitAs(Vectors(), field, visit))
+        visitAs(Others(), field, visit);
+}
+
+template <class Value> void clear(Value &value)
+{
+    if constexpr (std::is_same_v<Value, SbRotation> || std::is_same_v<Value, SbMatrix>)
+        value = Value::identity();
+    else if constexpr (std::is_same_v<Value, SbPlane>)
+        value = SbPlane(SbVec3f(0, 0, 1), 0);
+    else if constexpr (std::is_trivially_copyable_v<Value>)
+        std::memset(static_cast<void *>(&value), 0, sizeof value);
+    else
+        value = Value();
+}
+
+std::shared_ptr<SoMField> newField(const SoMField &like)
+{
+    return std::shared_ptr<SoMField>(static_cast<SoMField *>(like.getTypeId().createInstance()));
+}
+
+/// Silent while it lives; at its end the field notifies once.
+class OneNotification
+{
+public:
+    explicit OneNotification(SoMField &field) : m_field(field), m_wasEnabled(field.enableNotify(FALSE)) { }
+    ~OneNotification()
+    {
+        m_field.enableNotify(m_wasEnabled);
+        m_field.setDefault(FALSE);
+        m_field.touch();
+    }
+
+private:
+    SoMField &m_field;
+    SbBool m_wasEnabled;
+};
+} // namespace
+
+std::shared_ptr<SoMField> FieldRows::copy(const SoMField &field, int row, int count)
+{
+    const auto rows = newField(field);
+    const int start = std::clamp(row, 0, field.getNum());
+    const int number = std::clamp(count, 0, field.getNum() - start);
+    visitAny(field, [&](const auto &typed) {
+        using Field = std::remove_const_t<std::remove_reference_t<decltype(typed)>>;
+        auto &target = static_cast<Field &>(*rows);
+        target.setNum(0);
+        if (number > 0)
+            target.setValues(0, number, typed.getValues(start));
+    });
+    return rows;
+}
+
+std::shared_ptr<SoMField> FieldRows::zeros(const SoMField &like, int count)
+{
+    const auto rows = newField(like);
+    rows->setNum(0);
+    visitAny(*rows, [&](auto &typed) {
+        typed.insertSpace(0, count); // which sets references to null
+        using Value = std::remove_reference_t<decltype(*typed.startEditing())>;
+        if constexpr (!std::is_pointer_v<Value>) {
+            Value *const values = typed.startEditing();
+            std::for_each(values, values + count, [](Value &value) { clear(value); });
+        }
+        typed.finishEditing();
+    });
+    return rows;
+}
+
+void FieldRows::replace(SoMField &field, int row, int count, const SoMField &values)
+{
+    const OneNotification once(field);
+    const int difference = values.getNum() - count;
+    if (difference > 0)
+        field.insertSpace(row + count, difference);
+    else if (difference < 0)
+        field.deleteValues(row, -difference);
+    if (values.getNum() == 0)
+        return;
+    visitAny(field, [&](auto &typed) {
+        using Field = std::remove_reference_t<decltype(typed)>;
+        const auto &source = static_cast<const Field &>(values);
+        typed.setValues(row, source.getNum(), source.getValues(0));
+    });
+}
+
+bool FieldRows::areSame(const SoMField &first, const SoMField &second)
+{
+    return FieldSnapshot(first).isSameValue(FieldSnapshot(second));
+}
+
+bool FieldRows::swapColumns(SoMField &field, int first, int second)
+{
+    bool done = false;
+    visitAs(Vectors(), field, [&](auto &typed) {
+        auto *const values = typed.startEditing();
+        const int columns = static_cast<int>(sizeof *values / sizeof values[0][0]);
+        done = first >= 0 && second >= 0 && first < columns && second < columns;
+        for (int row = 0; done && row < typed.getNum(); ++row)
+            std::swap(values[row][first], values[row][second]);
+        typed.finishEditing();
+    });
+    return done;
+}

@@ -1,0 +1,64 @@
+// SPDX-FileCopyrightText: 2026 The HarborAPI authors
+// SPDX-License-Identifier: BSD-3-Clause
+
+#ifndef TABLEMANAGER_H
+#define TABLEMANAGER_H
+
+#include "EditManager.h"
+#include "RowsCommand.h"
+
+class HbMFieldTable;
+class HbMFieldWidget;
+class SoMField;
+
+/**
+ * Turns the edits of an editor of many values into undo steps, which hold what changed and not the whole field.
+ *
+ * It also lets cells be edited from the value that they show, and copies and pastes them as text: cells between tabs,
+ * rows on lines, as spreadsheets have it.
+ */
+class TableManager : public EditManager
+{
+    Q_OBJECT
+
+public:
+    using EditManager::EditManager;
+
+    void setEditor(HbFieldEditors *editor) override;
+    void setField(SoField *field) override;
+    void refresh() override;
+    void finish() override;
+
+    void mfieldSwapRows(int first, int second) override;
+    void mfieldSwapColumns(int first, int second) override;
+    void mfieldDeleteRows(int topRow, int numValues) override;
+    void mfieldAddRows(int row, int numRows) override;
+    void mfieldSet1Value(int row, int col, QString text, SbString *previousData) override;
+    void mfieldSetValue(int row, const void *data) override;
+
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    SoMField *rows() const;
+    bool mayEdit(const RowsChange *restored);
+    void editRow(int row, std::shared_ptr<SoMField> before, const std::function<void()> &write);
+    void record(std::vector<RowsChange> changes, bool wasDefault, int series);
+    void replace(int row, int count, std::shared_ptr<SoMField> values);
+
+    void showSomeRows();
+    void cellEditorsChanged();
+    void remember();
+    void sliderStepped();
+    void supplyText();
+
+    int componentOf(int column) const;
+    void copyCells() const;
+    void pasteCells();
+
+    HbMFieldWidget *m_widget = nullptr;
+    HbMFieldTable *m_table = nullptr;
+    RowsChange m_rowBefore{-1, {}, {}}; ///< the current row before a slider in it moves
+    int m_rowSeries = 0;
+};
+
+#endif
