@@ -10,6 +10,12 @@ class QString;
 void addEditorBenchmarks();
 /// Finding the editor for a node among ten thousand.
 void addRegistryBenchmarks();
+/// A table of many values, against tables of plain Qt.
+void addTableBenchmarks();
+/// Painting and dragging in a table, and leaving it alone.
+void addCellBenchmarks();
+/// Many values in the tool's panel, with undo.
+void addTablePanelBenchmarks();
 /// Selecting nodes in the tool's panel, and its answer to changes made elsewhere.
 void addPanelBenchmarks();
 /// Opening @p file as a document; an empty one stands for the largest model that is installed.

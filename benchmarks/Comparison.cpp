@@ -23,14 +23,17 @@ void run(benchmark::State &state, const Comparison &comparison, const Sides &sid
     state.counters["measured"] = median(measured);
     state.counters["baseline"] = median(baseline);
     state.counters["aim"] = comparison.aim;
+    state.counters["isMemory"] = comparison.isMemory;
 }
 } // namespace
 
 void compare(const Comparison &comparison, const std::function<Sides()> &prepare)
 {
-    benchmark::RegisterBenchmark(comparison.name.c_str(), [=](benchmark::State &state) {
-        run(state, comparison, prepare());
-    })->UseManualTime();
+    auto *const registered = benchmark::RegisterBenchmark(
+        comparison.name.c_str(), [=](benchmark::State &state) { run(state, comparison, prepare()); });
+    registered->UseManualTime();
+    if (comparison.minimumTime > 0)
+        registered->MinTime(comparison.minimumTime);
 }
 
 double median(std::vector<double> numbers)

@@ -15,9 +15,11 @@ struct Comparison {
     std::string name; ///< what is measured
     std::string against; ///< what it is measured against
     double aim = 0; ///< the largest ratio aimed at; 0 for none
+    bool isMemory = false; ///< its sides return bytes a row
+    double minimumTime = 0; ///< measured in each repetition, in seconds; 0 for what the command line says
 };
 
-/// The two things compared. Each does its work once and returns the seconds that count.
+/// The two things compared. Each does its work once and returns the seconds, or bytes, that count.
 struct Sides {
     std::function<double()> measured;
     std::function<double()> baseline;

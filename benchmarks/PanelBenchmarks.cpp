@@ -5,12 +5,11 @@
 #include "Comparison.h"
 #include "ManyFields.h"
 #include "PlainAreas.h"
+#include "Windows.h"
 
 #include "tools/nodescope/CoinRef.h"
 #include "tools/nodescope/FieldPanel.h"
 
-#include <QCoreApplication>
-#include <QEvent>
 #include <QImage>
 #include <QLineEdit>
 #include <QScrollArea>
@@ -29,22 +28,6 @@ constexpr int fieldCount = 30;
 constexpr int changes = 100;
 constexpr QSize windowSize(420, 1400); // all rows can be seen
 
-/// One turn of the event loop, up to the pixels: what is out of date is painted at once, where the window
-/// system would wait for its next frame.
-void turn(QWidget &window)
-{
-    QCoreApplication::processEvents();
-    QEvent paint(QEvent::UpdateRequest);
-    QCoreApplication::sendEvent(&window, &paint);
-}
-
-void showNow(QWidget &window)
-{
-    window.resize(windowSize);
-    window.show();
-    turn(window);
-}
-
 QImage newPicture()
 {
     return QImage(windowSize, QImage::Format_ARGB32_Premultiplied);
@@ -55,11 +38,6 @@ QWidget *newPlainRow(QWidget *parent)
     return PlainRow(QStringLiteral("field"), {PlainAreas::threeEdits}, nullptr, PlainRow::Bare, parent).frame;
 }
 
-void deleteLeftovers()
-{
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-}
-
 /// The panel, and two nodes of one class.
 class Panel
 {
@@ -68,7 +46,7 @@ public:
     {
         for (ManyFields *const node : {m_first, m_second})
             node->ref();
-        showNow(m_panel);
+        showNow(m_panel, windowSize);
     }
     ~Panel()
     {
@@ -170,7 +148,7 @@ public:
     PlainPanel()
     {
         m_area.setWidgetResizable(true);
-        showNow(m_area);
+        showNow(m_area, windowSize);
     }
 
     double build()

@@ -19,22 +19,24 @@ using Cells = std::array<QString, 7>;
 
 void print(std::ostream &out, const Cells &cells)
 {
-    constexpr std::array<int, 7> widths = {42, 11, 36, 11, 8, 16, 12};
+    constexpr std::array<int, 7> widths = {46, 11, 36, 11, 8, 16, 12};
     QString line;
     for (std::size_t i = 0; i < cells.size(); ++i)
         line += cells[i].leftJustified(widths[i]);
     out << line.trimmed().toStdString() << std::endl;
 }
 
-QString duration(double seconds)
+QString quantity(double amount, bool isMemory)
 {
-    return seconds < 1e-3 ? QStringLiteral("%1 us").arg(seconds * 1e6, 0, 'f', 1)
-                          : QStringLiteral("%1 ms").arg(seconds * 1e3, 0, 'f', 2);
+    if (isMemory)
+        return QStringLiteral("%1 B").arg(amount, 0, 'f', 1);
+    return amount < 1e-3 ? QStringLiteral("%1 us").arg(amount * 1e6, 0, 'f', 1)
+                         : QStringLiteral("%1 ms").arg(amount * 1e3, 0, 'f', 2);
 }
 
 QString number(double ratio)
 {
-    return QString::number(ratio, 'f', ratio < 0.1 ? 4 : 2);
+    return ratio < 0.01 ? QString::number(ratio, 'g', 2) : QString::number(ratio, 'f', ratio < 0.1 ? 4 : 2);
 }
 
 QString verdict(double ratio, double aim)
@@ -75,10 +77,11 @@ void TableReporter::ReportRuns(const std::vector<Run> &runs)
         return;
     const Run &first = runs.front();
     const double ratio = median(ratios);
+    const bool isMemory = first.counters.at("isMemory") > 0;
     const auto [least, most] = std::minmax_element(ratios.begin(), ratios.end());
     print(GetOutputStream(),
-          {QString::fromStdString(first.run_name.function_name), duration(median(measured)),
-           QString::fromStdString(first.report_label), duration(median(baseline)), number(ratio),
+          {QString::fromStdString(first.run_name.function_name), quantity(median(measured), isMemory),
+           QString::fromStdString(first.report_label), quantity(median(baseline), isMemory), number(ratio),
            number(*least) + QStringLiteral(", ") + number(*most),
            QStringLiteral("%1 (%2)").arg(verdict(ratio, first.counters.at("aim"))).arg(ratios.size())});
 }

@@ -11,8 +11,6 @@
 /// Paints column 0 as a swatch; column c of the others is component c - 1.
 class HARBORAPI_EXPORT HbMFColorTableItemDelegate : public HbMFieldTableItemDelegate
 {
-    Q_OBJECT
-
 public:
     using HbMFieldTableItemDelegate::HbMFieldTableItemDelegate;
     ~HbMFColorTableItemDelegate() override;

@@ -26,6 +26,7 @@ public:
 
     bool checkField(SoField *field) override;
     QString getFieldValue(int row, int col) const override;
+    QString getCellText(int row, int col, int limit) const override;
     QString getPopupValue(int row, int index) override;
     /// Takes the value from the grid; column and text are not used.
     void set1Value(int row, int col, QString text) override;

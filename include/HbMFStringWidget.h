@@ -8,7 +8,7 @@
 
 #include <Inventor/SbString.h>
 
-/// Edits an SoMFString; the text is the value itself, without quotes. Takes other fields as text, too.
+/// Edits an SoMFString; the text is the value itself, without quotes.
 class HARBORAPI_EXPORT HbMFStringWidget : public HbMFieldWidget
 {
 public:

@@ -18,8 +18,6 @@ class QLineEdit;
 /// Paints the cells of an HbMFieldTable from the owner's texts and makes their editors.
 class HARBORAPI_EXPORT HbMFieldTableItemDelegate : public QItemDelegate
 {
-    Q_OBJECT
-
 public:
     /// Nothing is owned; the manager may be null or die first.
     HbMFieldTableItemDelegate(HbFieldEditorCommandManager *commandManager, HbMFieldWidget *owner, QObject *parent);

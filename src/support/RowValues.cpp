@@ -126,25 +126,42 @@ void RowValues::swap(SoMField &field, int first, int second)
     field.set1(second, firstText.getString());
 }
 
+// Coin's own insertSpace() and deleteValues() call a virtual function per value that moves.
 void RowValues::insert(SoMField &field, int row)
 {
-    if (row < 0 || row > field.getNum())
+    const int count = field.getNum();
+    if (row < 0 || row > count)
         return;
     const OneNotification once(field);
-    field.insertSpace(row, 1);
-    const bool known = visitAs(Plain(), field, [row](auto &typed) {
-        setZero(typed.startEditing()[row]);
+    const bool known = visitAs(Plain(), field, [&](auto &typed) {
+        typed.setNum(count + 1);
+        auto *const values = typed.startEditing();
+        std::move_backward(values + row, values + count, values + count + 1);
+        setZero(values[row]);
         typed.finishEditing();
     });
-    const bool object = !known && visitAs(Objects(), field, [row](auto &typed) { typed.set1Value(row, nullptr); });
-    if (!known && !object)
+    if (known)
+        return;
+    field.insertSpace(row, 1);
+    if (!visitAs(Objects(), field, [row](auto &typed) { typed.set1Value(row, nullptr); }))
         field.set1(row, "\"\"");
 }
 
 void RowValues::remove(SoMField &field, int row, int count)
 {
-    if (contains(field, row) && count > 0)
-        field.deleteValues(row, std::min(count, field.getNum() - row));
+    if (!contains(field, row) || count <= 0)
+        return;
+    const int total = field.getNum();
+    const int behind = row + std::min(count, total - row);
+    const OneNotification once(field);
+    const bool known = visitAs(Plain(), field, [&](auto &typed) {
+        auto *const values = typed.startEditing();
+        std::move(values + behind, values + total, values + row);
+        typed.finishEditing();
+        typed.setNum(total - (behind - row));
+    });
+    if (!known)
+        field.deleteValues(row, behind - row);
 }
 
 QString RowValues::text(SoMField &field, int row)
@@ -162,18 +179,19 @@ QString RowValues::startOfText(SoMField &field, int row, int limit)
 {
     if (!field.isOfType(SoMFString::getClassTypeId()))
         return text(field, row);
-    const QString start = startOfString(field, row, limit);
+    const QString start = startOfString(static_cast<const SoMFString &>(field), row, limit);
     return contains(field, row) ? quoted(start) : start;
 }
 
-QString RowValues::startOfString(const SoMField &field, int row, int limit)
+QString RowValues::startOfString(const SoMFString &field, int row, int limit)
 {
     if (!contains(field, row))
         return {};
-    const SbString &value = static_cast<const SoMFString &>(field)[row];
-    int bytes = std::min(value.getLength(), 4 * limit); // no character of UTF-8 is longer
+    const SbString &value = field[row];
+    auto bytes = static_cast<int>(strnlen(
+        value.getString(), std::size_t(4) * static_cast<std::size_t>(limit))); // no character of UTF-8 is longer
     const auto isWithinCharacter = [&](int end) { return (value.getString()[end] & 0xC0) == 0x80; };
-    for (int longest = 3; bytes < value.getLength() && isWithinCharacter(bytes) && longest > 0; --longest)
+    for (int longest = 3; isWithinCharacter(bytes) && longest > 0; --longest)
         --bytes;
     return CoinText::toQString(value.getString(), bytes);
 }

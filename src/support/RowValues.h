@@ -6,6 +6,7 @@
 
 #include <QString>
 
+class SoMFString;
 class SoMField;
 
 /**
@@ -29,7 +30,7 @@ QString text(SoMField &field, int row);
 /// The start of text(), at least @p limit characters where it has as many; costs no more than that for strings.
 QString startOfText(SoMField &field, int row, int limit);
 /// The same of a string's value, without quotes.
-QString startOfString(const SoMField &field, int row, int limit);
+QString startOfString(const SoMFString &field, int row, int limit);
 /// Parses a value; returns whether the field's parser accepted it.
 bool setText(SoMField &field, int row, const QString &text);
 } // namespace RowValues

@@ -106,6 +106,7 @@ public:
             numbers += element(row, i);
         return numbers.join(QLatin1Char(' '));
     }
+    QString getCellText(int row, int col, int) const override { return getFieldValue(row, col); }
     QString getPopupValue(int row, int index) override
     {
         const SoMField *const matrices = editedField();

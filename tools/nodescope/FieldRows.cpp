@@ -57,6 +57,30 @@ template <class Value> void clear(Value &value)
         value = Value();
 }
 
+/// Moves the values from @p from on to @p to, to the end of a field that gets longer or shorter by as much.
+template <class Field> void makeRoom(Field &field, int from, int to, int total)
+{
+    using Value = std::remove_reference_t<decltype(*field.startEditing())>;
+    field.finishEditing();
+    if constexpr (std::is_pointer_v<Value>) { // counted references
+        if (to > from)
+            field.insertSpace(from, to - from);
+        else if (to < from)
+            field.deleteValues(to, from - to);
+    } else { // Coin would call a virtual function per value that moves
+        if (to > from)
+            field.setNum(total + to - from);
+        Value *const values = field.startEditing();
+        if (to > from)
+            std::move_backward(values + from, values + total, values + total + to - from);
+        else
+            std::move(values + from, values + total, values + to);
+        field.finishEditing();
+        if (to < from)
+            field.setNum(total + to - from);
+    }
+}
+
 std::shared_ptr<SoMField> newField(const SoMField &like)
 {
     return std::shared_ptr<SoMField>(static_cast<SoMField *>(like.getTypeId().createInstance()));
@@ -114,17 +138,13 @@ std::shared_ptr<SoMField> FieldRows::zeros(const SoMField &like, int count)
 void FieldRows::replace(SoMField &field, int row, int count, const SoMField &values)
 {
     const OneNotification once(field);
-    const int difference = values.getNum() - count;
-    if (difference > 0)
-        field.insertSpace(row + count, difference);
-    else if (difference < 0)
-        field.deleteValues(row, -difference);
-    if (values.getNum() == 0)
-        return;
+    const int total = field.getNum();
+    const int number = values.getNum();
     visitAny(field, [&](auto &typed) {
         using Field = std::remove_reference_t<decltype(typed)>;
-        const auto &source = static_cast<const Field &>(values);
-        typed.setValues(row, source.getNum(), source.getValues(0));
+        makeRoom(typed, row + count, row + number, total);
+        if (number > 0)
+            typed.setValues(row, number, static_cast<const Field &>(values).getValues(0));
     });
 }
 

@@ -50,6 +50,22 @@ QString HbMFMatrixWidget::getFieldValue(int row, int col) const
     return m_text->text(*field, wholeField, [field] { return CoinText::ofField(*field); });
 }
 
+QString HbMFMatrixWidget::getCellText(int row, int col, int limit) const
+{
+    auto *const matrices = fieldAs<SoMFMatrix>();
+    if (!matrices || !RowValues::contains(*matrices, row) || col != 0)
+        return {};
+    constexpr int shortest = 2 * elements; // a matrix of digits
+    const int start = qMin(matrices->getNum(), limit / shortest + 2); // two at least: a list is in brackets
+    if (start == matrices->getNum())
+        return getFieldValue(row, col);
+    return m_text->text(*matrices, -1 - start, [&] {
+        SoMFMatrix first;
+        first.setValues(0, start, matrices->getValues(0));
+        return CoinText::ofField(first);
+    });
+}
+
 QString HbMFMatrixWidget::getPopupValue(int row, int index)
 {
     const auto *const matrices = fieldAs<SoMFMatrix>();

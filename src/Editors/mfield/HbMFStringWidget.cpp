@@ -35,7 +35,7 @@ void HbMFStringWidget::initClass()
 
 bool HbMFStringWidget::checkField(SoField *field)
 {
-    return VectorTable::accepts<SoMField>(field);
+    return VectorTable::accepts<SoMFString>(field);
 }
 
 QString HbMFStringWidget::getFieldValue(int row, int col) const
@@ -45,11 +45,8 @@ QString HbMFStringWidget::getFieldValue(int row, int col) const
 
 QString HbMFStringWidget::getCellText(int row, int col, int limit) const
 {
-    SoMField *const field = editedField();
-    if (!field || col != 0)
-        return {};
-    const bool isString = field->isOfType(SoMFString::getClassTypeId());
-    return isString ? RowValues::startOfString(*field, row, limit) : RowValues::startOfText(*field, row, limit);
+    const auto *const strings = fieldAs<SoMFString>();
+    return strings && col == 0 ? RowValues::startOfString(*strings, row, limit) : QString();
 }
 
 void HbMFStringWidget::set1Value(int row, int col, QString text)
@@ -64,13 +61,9 @@ SbString HbMFStringWidget::getSingleFieldValue(int row, int col) const
 
 void HbMFStringWidget::setSingleFieldValue(SbString value, int row, int)
 {
-    SoMField *const field = editedField();
-    if (!field || !RowValues::contains(*field, row))
-        return;
-    if (auto *const strings = fieldAs<SoMFString>())
+    auto *const strings = fieldAs<SoMFString>();
+    if (strings && RowValues::contains(*strings, row))
         strings->set1Value(row, value); // not parsed: quotes are part of it
-    else
-        field->set1(row, value.getString());
 }
 
 void HbMFStringWidget::swapRows(int first, int second)
