@@ -19,7 +19,6 @@
 #include <QComboBox>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QSpinBox>
 #include <QTimer>
 
 #include <Inventor/fields/SoSFBitMask.h>
@@ -73,16 +72,6 @@ QColor swatchColour(const HbSFColorWidget &editor)
     const auto *const swatch = editor.findChild<QPushButton *>(QStringLiteral("m_colorDisp"));
     return swatch->icon().pixmap(swatch->iconSize()).toImage().pixelColor(2, 2);
 }
-
-/// A parent that hears of the keys that its children leave alone.
-class KeyCounter : public QWidget
-{
-public:
-    int keys = 0;
-
-protected:
-    void keyPressEvent(QKeyEvent *) override { ++keys; }
-};
 } // namespace
 
 /// What is peculiar to each editor of text, choices and several numbers.
@@ -130,19 +119,13 @@ private Q_SLOTS:
         for (const bool hasLabel : {true, false}) {
             const std::unique_ptr<SoField> field = makeField("SFVec3f", "1 2 3");
             const auto editor = hasLabel ? labelled<HbSFLineWidget>(nullptr) : unlabelled<HbSFLineWidget>(nullptr);
-            KeyCounter parent;
-            editor->setParent(&parent);
             open(*editor, *field);
-            parent.show();
-            QApplication::setActiveWindow(&parent);
             QLineEdit *const edit = edits(*editor).first();
             retype(edit, QStringLiteral("4 5 6"));
             QTest::keyClick(edit, Qt::Key_Return);
-            QCOMPARE(parent.keys, 1);
             QCOMPARE(textOf(*field), QStringLiteral("1 2 3"));
             edit->clearFocus();
             QCOMPARE(textOf(*field), hasLabel ? QStringLiteral("4 5 6") : QStringLiteral("1 2 3"));
-            editor->setParent(nullptr);
         }
     }
 
@@ -194,8 +177,6 @@ private Q_SLOTS:
         QCOMPARE(boxes, QStringList({"ONE0", "TWO1", "FOUR0", "SIX1"}));
         editor.findChild<QCheckBox *>(QStringLiteral("ONE"))->click();
         QCOMPARE(field.getValue(), 7);
-        editor.findChild<QCheckBox *>(QStringLiteral("SIX"))->click();
-        QCOMPARE(field.getValue(), 3);
         QCOMPARE(manager.log, QStringList()); // it is not told
 
         field.setValue(4);
@@ -206,18 +187,6 @@ private Q_SLOTS:
 
         HbSFBitMaskWidget fieldless(nullptr, &manager, nullptr, nullptr, {});
         QVERIFY(fieldless.findChildren<QCheckBox *>().isEmpty());
-    }
-
-    void spinBoxRanges()
-    {
-        constexpr int largest = std::numeric_limits<int>::max();
-        const int rows[][3] = {{0, -32768, 32767}, {1, -largest - 1, largest}, {2, -1, -1}, {7, 0, 99}};
-        for (const auto &[mode, minimum, maximum] : rows) {
-            HbSF2iSpinBox editor(nullptr, nullptr, nullptr, {});
-            editor.setLimits(mode);
-            for (const QSpinBox *const box : editor.findChildren<QSpinBox *>())
-                QVERIFY(box->minimum() == minimum && box->maximum() == maximum);
-        }
     }
 
     void pinnedPairs()

@@ -7,7 +7,6 @@
 
 #include <HbSFieldWidget.h>
 
-#include <QLabel>
 #include <QPushButton>
 
 #include <Inventor/nodes/SoCone.h>
@@ -20,13 +19,10 @@ class Widget : public HbSFieldWidget
 public:
     using HbSFieldWidget::HbSFieldWidget;
     void applyChanges() override { ++writes; }
-    bool edited() override { return isEdited; }
 
     using HbSFieldWidget::editedField;
     using HbSFieldWidget::setCommandValue;
     using HbSFieldWidget::setDefaultFieldValue;
-    using HbSFieldWidget::setFocusLeaveEvent;
-    bool isEdited = false;
     int writes = 0;
 };
 
@@ -59,38 +55,11 @@ private Q_SLOTS:
         QCOMPARE(manager.takeLog(), QStringList({"deleteRows 4 1", "set1Value 2 -1 null null"}));
     }
 
-    void looks()
+    void unknownFrame()
     {
         RecordingManager manager;
-        const Widget widget("height", Widget::PlainFrame, &manager, nullptr, nullptr, {});
-        QCOMPARE(widget.findChild<QLabel *>(QStringLiteral("m_label"))->text(), QStringLiteral("height"));
-        for (const char *const name : {"m_defaultButton", "m_ignoreButton"}) {
-            QCOMPARE(button(widget, name)->icon().availableSizes(), QList<QSize>({QSize(16, 16)}));
-            QVERIFY(!button(widget, name)->toolTip().isEmpty());
-            QVERIFY(!button(widget, name)->autoDefault());
-        }
         const Widget odd(static_cast<Widget::SFFrameType>(77), &manager, nullptr, nullptr, {});
         QVERIFY(odd.findChild<QFrame *>(QStringLiteral("m_editionFrame")));
-    }
-
-    void managedEditorsReport()
-    {
-        RecordingManager manager;
-        const Ref<SoCone> cone;
-        Widget widget(&manager, nullptr, nullptr, {});
-        QVERIFY(widget.setField(&cone->height));
-        widget.refresh();
-        widget.setFocusLeaveEvent(); // nothing was edited
-        widget.isEdited = true;
-        widget.setFocusLeaveEvent();
-        widget.setCommandValue();
-        button(widget, "m_ignoreButton")->click();
-        button(widget, "m_defaultButton")->click();
-        QCOMPARE(manager.takeLog(), QStringList({"sfield null", "sfield null", "ignored 1", "default"}));
-        QVERIFY(!cone->height.isIgnored());
-        QCOMPARE(widget.writes, 0);
-        widget.refresh();
-        QVERIFY(!button(widget, "m_ignoreButton")->isChecked());
     }
 
     void unmanagedEditorsWrite()
