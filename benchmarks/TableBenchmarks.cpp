@@ -170,7 +170,7 @@ double bytesARow(Create create, SoMFVec3f &field)
     return (bytesInUse() - before) / field.getNum();
 }
 
-template <class Measure> void compareNew(const Comparison &comparison, const Measure &measure, Create rival, int count)
+template <class Measure> void compareNew(const Comparison &comparison, Measure measure, Create rival, int count)
 {
     compare(comparison, [=] {
         const TableFields::Points field = TableFields::points(count);

@@ -55,6 +55,9 @@ public:
     /// Whether slider editors keep to their range.
     void setBoundedValue(bool bounded);
 
+    /// Commits and closes an open cell editor; false if the host deletes the table in answer.
+    bool finishEditing();
+
 public Q_SLOTS:
     /// Gives the table that many rows; negative numbers are ignored.
     void setNumRows(int row);
@@ -91,7 +94,6 @@ protected:
 private:
     void initClass();
     bool isTyping() const;
-    bool finishCellEditor();
     void endMultiSelection();
     void clearTouchedCells();
     void deleteRows(int top, int count);

@@ -68,9 +68,6 @@ public:
     virtual int getTextFlags();
     /// Whether this editor can edit @p field; here any field of many values.
     virtual bool checkField(SoField *field);
-    /// The start of getFieldValue(), at least @p limit characters where it has as many. Cells are painted with it.
-    virtual QString getCellText(int row, int col, int limit) const;
-
     /// The field set by setField(); null without one and after it died.
     SoMField *editedField() const;
     /// The box that scrolls to a row.
@@ -82,6 +79,10 @@ public Q_SLOTS:
     void ignoreButtonStateChanged();
     /// Writes the field's default into it, even with a command manager; nothing in this class calls it.
     virtual void setDefaultFieldValue();
+
+public:
+    /// The start of getFieldValue(), at least @p limit characters where it has as many. Cells are painted with it.
+    virtual QString getCellText(int row, int col, int limit) const;
 
 protected:
     /// The edited field as an F; null where it is none.

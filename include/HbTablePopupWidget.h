@@ -26,6 +26,8 @@ public:
                        QWidget *parent, const char *name, Qt::WindowFlags flags);
     ~HbTablePopupWidget() override;
 
+    /// An open grid shows what the row holds by now.
+    void refresh() override;
     void initClass(int rows, int columns);
     /// Opens the grid at the widget's left edge, or closes it.
     void managePopFramePos();

@@ -247,7 +247,8 @@ private Q_SLOTS:
         const Editing managed(&manager);
         managed.type();
         QStringList reports;
-        for (int i = 0; i < told.kind.reports; ++i)
+        const int count = told.kind.reports == 2 ? commitsOnReturn : told.kind.reports;
+        for (int i = 0; i < count; ++i)
             reports << QStringLiteral("set1Value 2 %1 %2 null").arg(told.kind.col).arg(typed);
         QCOMPARE(manager.takeLog(), reports);
         QVERIFY(managed.field->isSame(*managed.before));

@@ -130,7 +130,10 @@ class TestMFTable : public QObject
         QCOMPARE(manager.takeLog(), QStringList());
         QTest::keyClick(edit, Qt::Key_Return);
         QCoreApplication::processEvents();
-        QCOMPARE(manager.takeLog(), QStringList({sent, sent}));
+        QStringList reports = manager.takeLog();
+        QCOMPARE(reports.size(), commitsOnReturn);
+        reports.removeDuplicates();
+        QCOMPARE(reports, QStringList({sent}));
         QVERIFY(editor.m_table->hasFocus());
         QCOMPARE(editor.m_table->currentRow(), 1);
 

@@ -137,9 +137,11 @@ std::shared_ptr<SoMField> FieldRows::zeros(const SoMField &like, int count)
 
 void FieldRows::replace(SoMField &field, int row, int count, const SoMField &values)
 {
-    const OneNotification once(field);
     const int total = field.getNum();
     const int number = values.getNum();
+    if (row < 0 || count < 0 || row + count > total)
+        return; // somebody else has taken the values away
+    const OneNotification once(field);
     visitAny(field, [&](auto &typed) {
         using Field = std::remove_reference_t<decltype(typed)>;
         makeRoom(typed, row + count, row + number, total);
@@ -157,10 +159,13 @@ bool FieldRows::swapColumns(SoMField &field, int first, int second)
 {
     bool done = false;
     visitAs(Vectors(), field, [&](auto &typed) {
-        auto *const values = typed.startEditing();
-        const int columns = static_cast<int>(sizeof *values / sizeof values[0][0]);
+        using Value = std::remove_pointer_t<decltype(typed.startEditing())>;
+        constexpr int columns = static_cast<int>(sizeof(Value) / sizeof(std::declval<Value &>()[0]));
         done = first >= 0 && second >= 0 && first < columns && second < columns;
-        for (int row = 0; done && row < typed.getNum(); ++row)
+        if (!done)
+            return;
+        Value *const values = typed.startEditing();
+        for (int row = 0; row < typed.getNum(); ++row)
             std::swap(values[row][first], values[row][second]);
         typed.finishEditing();
     });

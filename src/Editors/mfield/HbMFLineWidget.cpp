@@ -64,10 +64,10 @@ SbString HbMFLineWidget::getSingleFieldValue(int row, int col) const
     return CoinText::toSbString(getFieldValue(row, col));
 }
 
-void HbMFLineWidget::setSingleFieldValue(SbString value, int row, int)
+void HbMFLineWidget::setSingleFieldValue(SbString value, int row, int col)
 {
     SoMField *const field = editedField();
-    if (field && RowValues::contains(*field, row))
+    if (field && col == 0 && RowValues::contains(*field, row))
         field->set1(row, value.getString());
 }
 

@@ -63,12 +63,11 @@ float HbMFRotationWidget::getSingleFieldValue(int row, int col) const
 void HbMFRotationWidget::setSingleFieldValue(float value, int row, int col)
 {
     auto *const rotations = fieldAs<SoMFRotation>();
-    if (!rotations || !RowValues::contains(*rotations, row) || col < 0 || col >= columns)
-        return;
+    if (!rotations || !RowValues::contains(*rotations, row) || col < 0 || col >= columns - 1)
+        return; // the last one, which the header calls an angle, stays as it is, deliberately
     float components[columns];
     std::copy_n((*rotations)[row].getValue(), columns, components);
-    if (col < columns - 1) // the last one, which the header calls an angle, stays as it is, deliberately
-        components[col] = value;
+    components[col] = value;
     rotations->set1Value(row, SbRotation(components));
 }
 

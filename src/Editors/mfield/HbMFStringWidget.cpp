@@ -29,7 +29,7 @@ HbMFStringWidget::~HbMFStringWidget() = default;
 void HbMFStringWidget::initClass()
 {
     m_table->setColumnCount(1);
-    m_table->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
+    m_table->horizontalHeader()->setSectionResizeMode(QHeaderView::Interactive);
     m_table->setNumRows(0);
 }
 
@@ -45,8 +45,11 @@ QString HbMFStringWidget::getFieldValue(int row, int col) const
 
 QString HbMFStringWidget::getCellText(int row, int col, int limit) const
 {
+    SoMField *const field = editedField();
+    if (!field || col != 0)
+        return {};
     const auto *const strings = fieldAs<SoMFString>();
-    return strings && col == 0 ? RowValues::startOfString(*strings, row, limit) : QString();
+    return strings ? RowValues::startOfString(*strings, row, limit) : RowValues::startOfText(*field, row, limit);
 }
 
 void HbMFStringWidget::set1Value(int row, int col, QString text)
@@ -59,11 +62,15 @@ SbString HbMFStringWidget::getSingleFieldValue(int row, int col) const
     return CoinText::toSbString(getFieldValue(row, col));
 }
 
-void HbMFStringWidget::setSingleFieldValue(SbString value, int row, int)
+void HbMFStringWidget::setSingleFieldValue(SbString value, int row, int col)
 {
-    auto *const strings = fieldAs<SoMFString>();
-    if (strings && RowValues::contains(*strings, row))
+    SoMField *const field = editedField();
+    if (!field || col != 0 || !RowValues::contains(*field, row))
+        return;
+    if (auto *const strings = fieldAs<SoMFString>())
         strings->set1Value(row, value); // not parsed: quotes are part of it
+    else
+        field->set1(row, value.getString()); // a derived class may take other fields
 }
 
 void HbMFStringWidget::swapRows(int first, int second)

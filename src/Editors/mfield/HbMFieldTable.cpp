@@ -42,7 +42,6 @@ void HbMFieldTable::initClass()
     setSelectionMode(QAbstractItemView::NoSelection);
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    setTabKeyNavigation(false);
     setCurrentCell(0, 0);
     connect(horizontalHeader(), &QHeaderView::sectionResized, this,
             [this] { m_userWidths |= isVisible() && !m_sharingWidth; });
@@ -89,7 +88,7 @@ void HbMFieldTable::setNumRows(int row)
 
 /// What was typed in a row belongs to that row, not to the one that moves there. False if the host deletes the table
 /// in answer.
-bool HbMFieldTable::finishCellEditor()
+bool HbMFieldTable::finishEditing()
 {
     const QPointer<QWidget> editor = m_delegate->openEditor(*this);
     if (!editor)
@@ -143,7 +142,7 @@ void HbMFieldTable::clearTouchedCells()
 
 void HbMFieldTable::addRow()
 {
-    if (!finishCellEditor() || (!m_commandManager && !m_owner->editedField()))
+    if (!finishEditing() || (!m_commandManager && !m_owner->editedField()))
         return;
     const int row = currentRow();
     clearTouchedCells();
@@ -165,7 +164,7 @@ void HbMFieldTable::addRow()
 
 void HbMFieldTable::deleteRow()
 {
-    if (!finishCellEditor() || rowCount() == 0)
+    if (!finishEditing() || rowCount() == 0)
         return;
     if (!m_multiSelection) {
         if (currentRow() >= 0)
@@ -219,7 +218,7 @@ void HbMFieldTable::swapDownRow()
 
 void HbMFieldTable::swapRows(int row1, int row2)
 {
-    if (!finishCellEditor())
+    if (!finishEditing())
         return;
     if (m_commandManager)
         m_commandManager->mfieldSwapRows(row1, row2);

@@ -211,6 +211,8 @@ bool HbMFieldWidget::setField(SoField *newField)
 {
     if (!checkField(newField))
         return false;
+    if (newField != m_field->get() && !m_table->finishEditing()) // what was typed belongs to the field before
+        return true;
     m_field->set(newField, [this] { m_table->setNumRows(0); });
     return true;
 }

@@ -7,6 +7,7 @@
 #include "Editors/FieldEditorSettings.h"
 #include "support/GridValidators.h"
 #include "support/Icons.h"
+#include "support/NumberText.h"
 #include "support/PopupPlacement.h"
 
 #include <HbFieldEditorCommandManager.h>
@@ -79,6 +80,10 @@ void HbTablePopupWidget::initClass(int rows, int columns)
         if (m_popupFrame->isVisible())
             updatePopupLines(row);
     });
+    connect(m_table->model(), &QAbstractItemModel::rowsRemoved, this, [this] {
+        if (m_popupFrame->isVisible())
+            updatePopupLines(-1); // Qt has told the row before the rows went
+    });
 }
 
 void HbTablePopupWidget::setEditFrame()
@@ -110,6 +115,21 @@ void HbTablePopupWidget::updatePopupLines(int row)
     for (std::size_t i = 0; i < m_popupEdits.size(); ++i) {
         m_filledTexts[i] = getPopupValue(shown, static_cast<int>(i));
         m_popupEdits[i]->setText(m_filledTexts[i]);
+    }
+}
+
+void HbTablePopupWidget::refresh()
+{
+    HbMFieldWidget::refresh();
+    if (!m_popupFrame->isVisible())
+        return;
+    const QScopedValueRollback<bool> quiet(m_filling, true);
+    for (std::size_t i = 0; i < m_popupEdits.size(); ++i) {
+        const QString value = getPopupValue(m_table->currentRow(), static_cast<int>(i));
+        if (NumberText::fromFloat(NumberText::toFloat(m_popupEdits[i]->text())) == value)
+            continue; // typed so, or unchanged
+        m_filledTexts[i] = value;
+        m_popupEdits[i]->setText(value);
     }
 }
 
@@ -151,6 +171,8 @@ bool HbTablePopupWidget::chooseRow(int row)
 
 bool HbTablePopupWidget::eventFilter(QObject *watched, QEvent *event)
 {
+    if (watched == m_table->viewport() && event->type() == QEvent::MouseButtonPress)
+        setFocus(Qt::MouseFocusReason); // so that Up and Down arrive
     if (watched == m_table->viewport())
         return event->type() == QEvent::MouseButtonPress
             && chooseRow(m_table->rowAt(static_cast<QMouseEvent *>(event)->pos().y()));
