@@ -131,8 +131,60 @@ private Q_SLOTS:
         slider->triggerAction(QSlider::SliderSingleStepAdd);
         QCOMPARE(m_stack->count(), 2); // the steps by key are one
         m_stack->undo();
+        QCoreApplication::processEvents(); // the open slider follows
+        const float step = material->shininess[0];
+        slider->triggerAction(QSlider::SliderSingleStepAdd);
+        m_stack->undo();
+        QCOMPARE(material->shininess[0], step);
         m_stack->undo();
         QCOMPARE(material->shininess[0], 1 / 3.0f);
+    }
+
+    void slidersGiveTheDefaultBack()
+    {
+        const Ref<SoMaterial> material;
+        m_panel->setNode(material);
+        openCell(control<HbMFieldTable>("Material.shininess"), 0, 0);
+        QCoreApplication::processEvents();
+        control<HbMFieldTable>("Material.shininess")
+            ->findChild<QSlider *>()
+            ->triggerAction(QSlider::SliderSingleStepAdd);
+        QCOMPARE(m_stack->count(), 1);
+        QVERIFY(!material->shininess.isDefault());
+        m_stack->undo();
+        QVERIFY(material->shininess.isDefault());
+    }
+
+    void undoOfRowsThatAreGoneDoesNothing()
+    {
+        const Ref<SoCoordinate3> points;
+        points->point.setNum(10);
+        m_panel->setNode(points);
+        m_panel->findChild<HbFieldEditorCommandManager *>()->mfieldDeleteRows(8, 1);
+        points->point.setNum(3);
+        m_stack->undo();
+        QCOMPARE(points->point.getNum(), 3);
+    }
+
+    void textIsPastedAsItWasCopied()
+    {
+        const Ref<SoText2> text;
+        const char *lines[] = {"two\nlines", "a\t\"tab\"", "5"};
+        text->string.setValues(0, 3, lines);
+        m_panel->setNode(text);
+        const QByteArray before = saved(text);
+        table()->setSelectionMode(QAbstractItemView::ContiguousSelection);
+        table()->selectAll();
+        QTest::keyClick(table(), Qt::Key_C, Qt::ControlModifier);
+        table()->clearSelection();
+        table()->setCurrentCell(0, 0);
+        QTest::keyClick(table(), Qt::Key_V, Qt::ControlModifier);
+        QCOMPARE(saved(text), before);
+        QCOMPARE(m_stack->count(), 0); // nothing was changed
+        QApplication::clipboard()->setText("hello");
+        table()->setCurrentCell(2, 0);
+        QTest::keyClick(table(), Qt::Key_V, Qt::ControlModifier);
+        QCOMPARE(text->string[2].getString(), "hello");
     }
 
     void copiesForSpreadsheets()

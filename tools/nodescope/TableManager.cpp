@@ -3,6 +3,7 @@
 
 #include "TableManager.h"
 
+#include "CellText.h"
 #include "FieldCommand.h"
 #include "FieldRows.h"
 #include "FieldText.h"
@@ -11,6 +12,7 @@
 #include <HbMFColorTable.h>
 #include <HbMFieldTable.h>
 #include <HbMFieldWidget.h>
+#include <HbSlider.h>
 #include <HbTablePopupWidget.h>
 
 #include <QClipboard>
@@ -21,7 +23,10 @@
 #include <QUndoStack>
 
 #include <Inventor/SbString.h>
-#include <Inventor/fields/SoMField.h>
+#include <Inventor/fields/SoMFName.h>
+#include <Inventor/fields/SoMFString.h>
+
+#include <algorithm>
 
 void TableManager::setEditor(HbFieldEditors *editor)
 {
@@ -29,6 +34,10 @@ void TableManager::setEditor(HbFieldEditors *editor)
     m_widget = dynamic_cast<HbMFieldWidget *>(editor);
     m_table = editor->findChild<HbMFieldTable *>();
     connect(m_table, &QTableWidget::currentCellChanged, this, &TableManager::supplyText);
+    connect(stack(), &QUndoStack::indexChanged, this, [this] {
+        if (!isDragging())
+            remember();
+    });
     m_table->installEventFilter(this);
     m_table->viewport()->installEventFilter(this);
 }
@@ -46,6 +55,8 @@ void TableManager::refresh()
     showSomeRows();
     if (m_table->currentRow() < 0 && m_table->rowCount() > 0)
         m_table->setCurrentCell(0, 0);
+    if (!isDragging())
+        remember();
     supplyText();
 }
 
@@ -63,9 +74,7 @@ void TableManager::showSomeRows()
 
 void TableManager::finish()
 {
-    const int row = m_table->currentRow();
-    m_table->setCurrentCell(-1, -1); // commits and closes an open cell editor
-    m_table->setCurrentCell(row, 0);
+    m_table->finishEditing();
 }
 
 SoMField *TableManager::rows() const
@@ -93,13 +102,13 @@ void TableManager::record(std::vector<RowsChange> changes, bool wasDefault, int 
     stack()->push(new RowsCommand(*rows(), std::move(changes), wasDefault, series));
 }
 
-void TableManager::editRow(int row, std::shared_ptr<SoMField> before, const std::function<void()> &write)
+void TableManager::editRow(int row, std::shared_ptr<SoMField> before, bool wasDefault,
+                           const std::function<void()> &write)
 {
     const RowsChange change{row, before, {}};
     if (!mayEdit(&change) || row < 0 || row >= rows()->getNum())
         return;
     const OwnEdit own;
-    const bool wasDefault = rows()->isDefault();
     const WriteWatch watch(*rows());
     write();
     const auto after = FieldRows::copy(*rows(), row, 1);
@@ -120,13 +129,13 @@ void TableManager::mfieldSet1Value(int row, int col, QString text, SbString *pre
         return;
     const bool isRemembered = dragged && m_rowBefore.row == row;
     editRow(row, isRemembered ? m_rowBefore.before : FieldRows::copy(*rows(), row, 1),
-            [&] { m_widget->set1Value(row, col, text); });
+            isRemembered ? m_wasDefault : bool(rows()->isDefault()), [&] { m_widget->set1Value(row, col, text); });
 }
 
 void TableManager::mfieldSetValue(int row, const void *data)
 {
     if (isListening())
-        editRow(row, FieldRows::copy(*rows(), row, 1), [&] { m_widget->setValue(row, data); });
+        editRow(row, FieldRows::copy(*rows(), row, 1), rows()->isDefault(), [&] { m_widget->setValue(row, data); });
 }
 
 void TableManager::replace(int row, int count, std::shared_ptr<SoMField> values)
@@ -182,8 +191,10 @@ void TableManager::mfieldSwapColumns(int first, int second)
 void TableManager::remember()
 {
     m_rowBefore.row = m_table->currentRow();
-    if (rows())
-        m_rowBefore.before = FieldRows::copy(*rows(), m_rowBefore.row, 1);
+    if (!rows())
+        return;
+    m_rowBefore.before = FieldRows::copy(*rows(), m_rowBefore.row, 1);
+    m_wasDefault = rows()->isDefault();
 }
 
 /// Watches the slider of a cell editor that was opened, and freshens the cell's text when one is closed.
@@ -209,15 +220,23 @@ void TableManager::sliderStepped()
     if (FieldRows::areSame(*m_rowBefore.before, *now) || !mayEdit(&m_rowBefore))
         return;
     const OwnEdit own;
-    record({{row, m_rowBefore.before, now}}, false, m_rowSeries);
+    record({{row, m_rowBefore.before, now}}, m_wasDefault, m_rowSeries);
     remember();
+}
+
+bool TableManager::isDragging() const
+{
+    const auto sliders = m_table->viewport()->findChildren<QSlider *>();
+    return std::any_of(sliders.begin(), sliders.end(), [](const QSlider *slider) { return slider->isSliderDown(); });
 }
 
 /// The table's cells hold no text, so that an editor would open empty: the current one gets what it shows.
 void TableManager::supplyText()
 {
     const QModelIndex cell = m_table->currentIndex();
-    const bool isEditing = m_table->viewport()->findChild<QWidget *>(QString(), Qt::FindDirectChildrenOnly);
+    const auto *const editor = m_table->viewport()->findChild<QWidget *>(QString(), Qt::FindDirectChildrenOnly);
+    const auto *const slider = qobject_cast<const HbSlider *>(editor);
+    const bool isEditing = slider ? slider->isEdited() || isDragging() : editor != nullptr; // a slider follows
     if (!cell.isValid() || isEditing || dynamic_cast<HbTablePopupWidget *>(m_widget))
         return;
     const QString text = m_widget->getFieldValue(cell.row(), componentOf(cell.column()));
@@ -242,43 +261,58 @@ void TableManager::copyCells() const
     const int bottom = isSelected ? ranges.first().bottomRow() : current.row();
     const int left = isSelected ? ranges.first().leftColumn() : current.column();
     const int right = isSelected ? ranges.first().rightColumn() : current.column();
-    QString text;
+    QVector<QStringList> cells;
     for (int row = top; row <= bottom; ++row) {
-        QStringList cells;
+        cells.append(QStringList());
         for (int column = left; column <= right; ++column)
             if (componentOf(column) >= 0)
-                cells += m_widget->getFieldValue(row, componentOf(column));
-        text += cells.join(QLatin1Char('\t')) + (row < bottom ? QStringLiteral("\n") : QString());
+                cells.last() += m_widget->getFieldValue(row, componentOf(column));
     }
-    QGuiApplication::clipboard()->setText(text);
+    QGuiApplication::clipboard()->setText(CellText::join(cells));
 }
 
+/// Whether a cell takes this text; what is no number would count as 0 there.
+bool TableManager::accepts(int row, int column, const QString &text) const
+{
+    if (rows()->isOfType(SoMFString::getClassTypeId()) || rows()->isOfType(SoMFName::getClassTypeId()))
+        return true;
+    bool wasNumber = false;
+    bool isNumber = false;
+    bool isInteger = false;
+    m_widget->getFieldValue(row, column).toDouble(&wasNumber);
+    text.toDouble(&isNumber);
+    text.toLongLong(&isInteger, 0);
+    return isNumber || isInteger || !wasNumber;
+}
+
+/// One step and one notification for all cells.
 void TableManager::pasteCells()
 {
-    QStringList lines = QGuiApplication::clipboard()->text().remove(QLatin1Char('\r')).split(QLatin1Char('\n'));
-    if (lines.size() > 1 && lines.last().isEmpty())
-        lines.removeLast();
-    if (!mayEdit(nullptr) || lines.join(QString()).isEmpty())
+    const QVector<QStringList> cells = CellText::split(QGuiApplication::clipboard()->text());
+    if (cells.isEmpty() || dynamic_cast<HbTablePopupWidget *>(m_widget) || !mayEdit(nullptr))
         return;
-    const int top = qMax(m_table->currentRow(), 0);
+    const OwnEdit own;
+    const int top = qBound(0, m_table->currentRow(), rows()->getNum());
     const int left = qMax(componentOf(m_table->currentColumn()), 0);
-    const int missing = top + static_cast<int>(lines.size()) - rows()->getNum();
-    stack()->beginMacro(tr("%1: paste").arg(FieldText::qualifiedName(*rows())));
-    if (missing > 0)
-        mfieldAddRows(rows()->getNum(), missing);
-    for (int line = 0; line < lines.size(); ++line) {
-        const QStringList cells = lines[line].split(QLatin1Char('\t'));
-        for (int i = 0; i < cells.size(); ++i) {
-            const int row = top + line;
-            bool wasNumber = false;
-            bool isNumber = false;
-            m_widget->getFieldValue(row, left + i).toDouble(&wasNumber);
-            cells[i].toDouble(&isNumber);
-            if (isNumber || !wasNumber) // else it would count as 0
-                mfieldSet1Value(row, left + i, cells[i], nullptr);
-        }
+    const int count = static_cast<int>(cells.size());
+    const bool wasDefault = rows()->isDefault();
+    const auto before = FieldRows::copy(*rows(), top, count);
+    const SbBool wasNotifying = rows()->enableNotify(FALSE);
+    if (const int missing = count - before->getNum(); missing > 0)
+        FieldRows::replace(*rows(), rows()->getNum(), 0, *FieldRows::zeros(*rows(), missing));
+    for (int line = 0; line < count; ++line)
+        for (int i = 0; i < cells[line].size(); ++i)
+            if (accepts(top + line, left + i, cells[line][i]))
+                m_widget->set1Value(top + line, left + i, cells[line][i]);
+    rows()->enableNotify(wasNotifying);
+    const auto after = FieldRows::copy(*rows(), top, count);
+    if (FieldRows::areSame(*before, *after)) {
+        rows()->setDefault(wasDefault);
+    } else {
+        rows()->touch();
+        record({{top, before, after}}, wasDefault, FieldCommand::noSeries);
     }
-    stack()->endMacro();
+    refresh();
 }
 
 bool TableManager::eventFilter(QObject *watched, QEvent *event)

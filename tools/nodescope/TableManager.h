@@ -41,7 +41,7 @@ public:
 private:
     SoMField *rows() const;
     bool mayEdit(const RowsChange *restored);
-    void editRow(int row, std::shared_ptr<SoMField> before, const std::function<void()> &write);
+    void editRow(int row, std::shared_ptr<SoMField> before, bool wasDefault, const std::function<void()> &write);
     void record(std::vector<RowsChange> changes, bool wasDefault, int series);
     void replace(int row, int count, std::shared_ptr<SoMField> values);
 
@@ -49,15 +49,18 @@ private:
     void cellEditorsChanged();
     void remember();
     void sliderStepped();
+    bool isDragging() const;
     void supplyText();
 
     int componentOf(int column) const;
     void copyCells() const;
     void pasteCells();
+    bool accepts(int row, int column, const QString &text) const;
 
     HbMFieldWidget *m_widget = nullptr;
     HbMFieldTable *m_table = nullptr;
     RowsChange m_rowBefore{-1, {}, {}}; ///< the current row before a slider in it moves
+    bool m_wasDefault = false; ///< then
     int m_rowSeries = 0;
 };
 

@@ -1,0 +1,61 @@
+// SPDX-FileCopyrightText: 2026 The HarborAPI authors
+// SPDX-License-Identifier: BSD-3-Clause
+
+#include "CellText.h"
+
+#include <utility>
+
+namespace
+{
+constexpr QLatin1Char quote('"');
+constexpr QLatin1Char tab('\t');
+constexpr QLatin1Char newLine('\n');
+
+QString written(QString cell)
+{
+    if (!cell.contains(tab) && !cell.contains(newLine) && !cell.contains(quote))
+        return cell;
+    return quote + cell.replace(quote, QLatin1String("\"\"")) + quote;
+}
+} // namespace
+
+QString CellText::join(const QVector<QStringList> &rows)
+{
+    QStringList lines;
+    for (const QStringList &row : rows) {
+        QStringList cells;
+        for (const QString &cell : row)
+            cells += written(cell);
+        lines += cells.join(tab);
+    }
+    return lines.join(newLine);
+}
+
+QVector<QStringList> CellText::split(const QString &text)
+{
+    QVector<QStringList> rows(1);
+    QString cell;
+    bool isQuoted = false;
+    const auto endCell = [&] { rows.last() += std::exchange(cell, QString()); };
+    for (int i = 0; i < text.size(); ++i) {
+        const QChar character = text.at(i);
+        const bool isDoubled = isQuoted && character == quote && i + 1 < text.size() && text.at(i + 1) == quote;
+        if (isDoubled) {
+            cell += text.at(++i);
+        } else if (character == quote && (isQuoted || cell.isEmpty())) {
+            isQuoted = !isQuoted;
+        } else if (isQuoted || (character != tab && character != newLine && character != QLatin1Char('\r'))) {
+            cell += character;
+        } else if (character == tab) {
+            endCell();
+        } else if (character == newLine) {
+            endCell();
+            rows.append(QStringList());
+        }
+    }
+    if (!cell.isEmpty() || !rows.last().isEmpty())
+        endCell();
+    else
+        rows.removeLast(); // the text ended with its last line
+    return rows;
+}
