@@ -3,12 +3,8 @@
 
 #include <HbMFDefaultFieldWidget.h>
 
-#include "MFieldAccess.h"
+#include "TextColumn.h"
 #include "VectorTable.h"
-#include "support/CoinText.h"
-#include "support/RowTextCache.h"
-
-#include <Inventor/fields/SoMFString.h>
 
 HbMFDefaultFieldWidget::HbMFDefaultFieldWidget(const char *fieldType, HbFieldEditorCommandManager *commandManager,
                                                QWidget *parent, const char *name, Qt::WindowFlags flags)
@@ -28,9 +24,7 @@ HbMFDefaultFieldWidget::~HbMFDefaultFieldWidget() = default;
 
 void HbMFDefaultFieldWidget::initClass()
 {
-    m_table->setColumnCount(1);
-    m_table->horizontalHeader()->setSectionResizeMode(QHeaderView::Interactive);
-    m_table->setNumRows(0);
+    TextColumn::init(*m_table);
 }
 
 bool HbMFDefaultFieldWidget::checkField(SoField *field)
@@ -40,18 +34,12 @@ bool HbMFDefaultFieldWidget::checkField(SoField *field)
 
 QString HbMFDefaultFieldWidget::getFieldValue(int row, int col) const
 {
-    SoMField *const field = editedField();
-    return field && col == 0 ? RowValues::text(*field, row) : QString();
+    return TextColumn::value(editedField(), row, col);
 }
 
 QString HbMFDefaultFieldWidget::getCellText(int row, int col, int limit) const
 {
-    SoMField *const field = editedField();
-    if (!field || col != 0)
-        return {};
-    if (field->isOfType(SoMFString::getClassTypeId()))
-        return RowValues::startOfText(*field, row, limit);
-    return m_texts->text(*field, row, [&] { return RowValues::text(*field, row); });
+    return TextColumn::cellText(*this, *m_texts, row, col, limit);
 }
 
 void HbMFDefaultFieldWidget::set1Value(int row, int col, QString text)
@@ -66,9 +54,7 @@ SbString HbMFDefaultFieldWidget::getSingleFieldValue(int row, int col) const
 
 void HbMFDefaultFieldWidget::setSingleFieldValue(SbString value, int row, int col)
 {
-    SoMField *const field = editedField();
-    if (field && col == 0 && RowValues::contains(*field, row))
-        field->set1(row, value.getString());
+    TextColumn::setValue(editedField(), value, row, col);
 }
 
 void HbMFDefaultFieldWidget::swapRows(int first, int second)

@@ -1,0 +1,52 @@
+// SPDX-FileCopyrightText: 2026 The HarborAPI authors
+// SPDX-License-Identifier: BSD-3-Clause
+
+#ifndef TEXTCOLUMN_H
+#define TEXTCOLUMN_H
+
+#include "support/CoinText.h"
+#include "support/RowTextCache.h"
+#include "support/RowValues.h"
+
+#include <HbMFieldTable.h>
+#include <HbMFieldWidget.h>
+
+#include <QHeaderView>
+
+#include <Inventor/fields/SoMFString.h>
+
+/// What the editors share that show any value as text in file notation, in one column.
+namespace TextColumn
+{
+inline void init(HbMFieldTable &table)
+{
+    table.setColumnCount(1);
+    table.horizontalHeader()->setSectionResizeMode(QHeaderView::Interactive);
+    table.setNumRows(0);
+}
+
+inline QString value(SoMField *field, int row, int col)
+{
+    return field && col == 0 ? RowValues::text(*field, row) : QString();
+}
+
+/// What a cell shows: of a string no more than fits, else what @p widget tells.
+inline QString cellText(const HbMFieldWidget &widget, RowTextCache &texts, int row, int col, int limit)
+{
+    SoMField *const field = widget.editedField();
+    if (!field || col != 0)
+        return {};
+    if (field->isOfType(SoMFString::getClassTypeId()))
+        return RowValues::startOfText(*field, row, limit);
+    return texts.text(*field, row, [&] { return widget.getFieldValue(row, col); });
+}
+
+/// Leaves what does not parse to the field's parser.
+inline void setValue(SoMField *field, const SbString &text, int row, int col)
+{
+    if (field && col == 0 && RowValues::contains(*field, row))
+        field->set1(row, text.getString());
+}
+} // namespace TextColumn
+
+#endif
