@@ -8,7 +8,14 @@
 
 #include <QMainWindow>
 
+#include <functional>
+
+class HbFieldEditorCommandManager;
+class HbFieldEditors;
 class QMenu;
+class QTreeWidgetItem;
+class SoField;
+class SoNode;
 
 /**
  * The tool's main window as the plug-in framework sees it.
@@ -35,6 +42,24 @@ public:
 
     /// The widget that shows the editors of the selection; repainted after a plug-in was removed.
     virtual QWidget *getEditorsWidget();
+
+    /// The node that a row of the scene's tree stands for, for plug-ins that follow the tree.
+    virtual SoNode *getNode(QTreeWidgetItem *item);
+
+    /// Makes a field editor that is given this command manager, which may be null.
+    using FieldEditorFactory = std::function<HbFieldEditors *(HbFieldEditorCommandManager *)>;
+
+    /**
+     * Makes an editor of @p field for a plug-in, by @p create, and returns it; it belongs to the parent it was created
+     * with.
+     *
+     * A tool overrides this to supply a command manager of its own, so that edits in a plug-in can be undone there,
+     * and to keep the editor up to date. By default the editor writes the field itself and is refreshed once.
+     */
+    virtual HbFieldEditors *createFieldEditor(SoField *field, const FieldEditorFactory &create);
+
+    /// The set of plug-ins has changed: the editor for the selected node may be another one now.
+    virtual void pluginsChanged();
 };
 
 #endif

@@ -3,6 +3,8 @@
 
 #include <HbGUIManagement.h>
 
+#include <HbFieldEditors.h>
+
 HbGUIManagement::HbGUIManagement(QWidget *parent, Qt::WindowFlags flags) : QMainWindow(parent, flags) { }
 
 HbGUIManagement::~HbGUIManagement() = default;
@@ -26,3 +28,18 @@ QWidget *HbGUIManagement::getEditorsWidget()
 {
     return nullptr;
 }
+
+SoNode *HbGUIManagement::getNode(QTreeWidgetItem *)
+{
+    return nullptr;
+}
+
+HbFieldEditors *HbGUIManagement::createFieldEditor(SoField *field, const FieldEditorFactory &create)
+{
+    HbFieldEditors *const editor = create(nullptr);
+    editor->setField(field);
+    editor->refresh();
+    return editor;
+}
+
+void HbGUIManagement::pluginsChanged() { }

@@ -4,6 +4,7 @@
 #ifndef QTCOMPAT_H
 #define QTCOMPAT_H
 
+#include <QSettings>
 #include <QtGlobal>
 
 #include <limits>
@@ -24,6 +25,16 @@ inline void makePaintable(int &minimum, int &maximum)
 #else
     Q_UNUSED(minimum)
     Q_UNUSED(maximum)
+#endif
+}
+
+/// Qt 5 reads INI files as Latin-1.
+inline void readIniAsUtf8(QSettings &file)
+{
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+    file.setIniCodec("UTF-8");
+#else
+    Q_UNUSED(file)
 #endif
 }
 } // namespace QtCompat

@@ -33,6 +33,7 @@ EditManager::EditManager(QUndoStack *stack, QObject *parent)
 void EditManager::setEditor(HbFieldEditors *editor)
 {
     m_editor = editor;
+    m_frame = editor;
     m_slider = editor->findChild<QSlider *>();
     m_edit = editor->findChild<QLineEdit *>();
     m_line = editor->findChild<QLineEdit *>(QStringLiteral("lineEdit"));
@@ -83,7 +84,7 @@ void EditManager::refresh()
 
 bool EditManager::isListening() const
 {
-    return m_field && m_stack && !m_refreshing;
+    return m_field && m_stack && m_frame && !m_refreshing;
 }
 
 /// Where the field cannot be edited: says why, and takes back what the slider wrote on the way.

@@ -81,6 +81,7 @@ private:
 
     QPointer<QUndoStack> m_stack;
     HbFieldEditors *m_editor = nullptr;
+    QPointer<QWidget> m_frame; ///< the editor as well: its controls still speak when it dies
     SoField *m_field = nullptr;
     QPointer<QSlider> m_slider;
     QPointer<QLineEdit> m_edit;

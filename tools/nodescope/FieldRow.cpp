@@ -35,21 +35,53 @@ SbName nameOf(const SoField &field)
     return name;
 }
 
-EditManager *newManager(const SoField &field, QUndoStack *stack, QObject *parent)
+/// An editor of a plug-in's own class may have none.
+QLabel *labelOf(HbFieldEditors &editor)
+{
+    auto *const label = editor.findChild<QLabel *>(QStringLiteral("m_label"));
+    if (label)
+        return label;
+    auto *const unseen = new QLabel(&editor);
+    unseen->hide();
+    return unseen;
+}
+
+std::unique_ptr<EditManager> newManager(const SoField &field, QUndoStack *stack)
 {
     if (field.isOfType(SoMField::getClassTypeId()))
-        return new TableManager(stack, parent);
-    return new EditManager(stack, parent);
+        return std::make_unique<TableManager>(stack);
+    return std::make_unique<EditManager>(stack);
+}
+
+FieldRow::Made makeByType(SoField &field, QUndoStack *stack, QWidget *parent)
+{
+    return FieldRow::make(field, stack, [&](HbFieldEditorCommandManager *manager) {
+        const EditorKind &kind = EditorTable::kindFor(field);
+        return kind.create(field, nameOf(field).getString(), EditorTable::rangeFor(kind, field), manager, parent);
+    });
 }
 } // namespace
 
-FieldRow::FieldRow(SoField &field, QUndoStack *stack, QWidget *parent)
-    : QObject(parent), m_field(&field), m_type(field.getTypeId()), m_name(nameOf(field)),
-      m_kind(EditorTable::kindFor(field)), m_choices(EditorTable::choices(field)),
-      m_manager(newManager(field, stack, this)),
-      m_editor(m_kind.create(field, m_name.getString(), EditorTable::rangeFor(m_kind, field), m_manager, parent)),
-      m_label(m_editor->findChild<QLabel *>(QStringLiteral("m_label"))), m_edits(m_editor->findChildren<QLineEdit *>())
+FieldRow::Made FieldRow::make(const SoField &field, QUndoStack *stack,
+                              const HbGUIManagement::FieldEditorFactory &create)
 {
+    auto manager = newManager(field, stack);
+    HbFieldEditors *const editor = create(manager.get());
+    return {editor ? manager.release() : nullptr, editor};
+}
+
+FieldRow::FieldRow(SoField &field, QUndoStack *stack, QWidget *parent)
+    : FieldRow(field, makeByType(field, stack, parent), parent)
+{
+}
+
+FieldRow::FieldRow(SoField &field, const Made &made, QObject *parent)
+    : QObject(parent), m_field(&field), m_type(field.getTypeId()), m_name(nameOf(field)),
+      m_kind(EditorTable::kindFor(field)), m_choices(EditorTable::choices(field)), m_manager(made.manager),
+      m_editor(made.editor), m_label(labelOf(*m_editor)), m_labelText(m_label->text()),
+      m_edits(m_editor->findChildren<QLineEdit *>())
+{
+    m_manager->setParent(this);
     adoptControls();
     nameControls();
     connect(m_manager, &EditManager::message, this, &FieldRow::message);
@@ -158,8 +190,7 @@ bool FieldRow::isBusy() const
 void FieldRow::updateMark()
 {
     const QString source = FieldText::source(*m_field);
-    const QString name = QString::fromLatin1(m_name.getString());
-    const QString label = source.isEmpty() ? name : name + connectedMark;
+    const QString label = source.isEmpty() ? m_labelText : m_labelText + connectedMark;
     if (label == m_label->text() && source == m_source)
         return;
     m_source = source;
@@ -184,8 +215,8 @@ int FieldRow::labelWidth() const
 {
     QFont font = m_label->font();
     font.setBold(true);
-    const QString text = QString::fromLatin1(m_name.getString()) + connectedMark;
-    return QFontMetrics(font).horizontalAdvance(text) + 2 * (m_label->margin() + m_label->frameWidth());
+    return QFontMetrics(font).horizontalAdvance(m_labelText + connectedMark)
+        + 2 * (m_label->margin() + m_label->frameWidth());
 }
 
 void FieldRow::setLabelWidth(int width)

@@ -4,6 +4,8 @@
 #ifndef FIELDROW_H
 #define FIELDROW_H
 
+#include <HbGUIManagement.h>
+
 #include <QObject>
 #include <QPointer>
 
@@ -31,8 +33,19 @@ class FieldRow : public QObject
     Q_OBJECT
 
 public:
-    /// @p parent is the widget that the editor becomes a child of.
+    /// An editor and the manager that it was made with.
+    struct Made {
+        EditManager *manager;
+        HbFieldEditors *editor;
+    };
+
+    /// Gives @p create a manager for @p field. The manager is null if no editor was made.
+    static Made make(const SoField &field, QUndoStack *stack, const HbGUIManagement::FieldEditorFactory &create);
+
+    /// Makes the editor that the field's type asks for, as a child of @p parent.
     FieldRow(SoField &field, QUndoStack *stack, QWidget *parent);
+    /// Takes an editor that is there, and owns its manager.
+    FieldRow(SoField &field, const Made &made, QObject *parent);
 
     QWidget *widget() const;
     const SoField *field() const { return m_field; }
@@ -78,6 +91,7 @@ private:
     EditManager *m_manager;
     HbFieldEditors *m_editor;
     QLabel *m_label;
+    QString m_labelText;
     QList<QLineEdit *> m_edits;
     QString m_source;
 };

@@ -4,23 +4,30 @@
 #include "MainWindow.h"
 
 #include "FieldPanel.h"
+#include "FileActions.h"
 #include "MessageBar.h"
+#include "NodeEditor.h"
+#include "PluginField.h"
 #include "SceneDocument.h"
 #include "SceneTree.h"
 #include "SceneView.h"
 
-#include <QApplication>
-#include <QClipboard>
+#include <HbFieldEditors.h>
+#include <HbGUIManager.h>
+
+#include <Inventor/fields/SoField.h>
+#include <Inventor/fields/SoFieldContainer.h>
+#include <Inventor/nodes/SoNode.h>
+
 #include <QCloseEvent>
-#include <QDir>
 #include <QDockWidget>
 #include <QDragEnterEvent>
-#include <QFileDialog>
+#include <QFileInfo>
 #include <QLabel>
 #include <QMenuBar>
-#include <QMessageBox>
 #include <QMimeData>
 #include <QSettings>
+#include <QSplitter>
 #include <QStatusBar>
 
 namespace
@@ -39,31 +46,39 @@ QString droppedFile(const QMimeData *data)
 
 MainWindow::MainWindow(QWidget *parent)
     : HbGUIManagement(parent), m_document(new SceneDocument(this)), m_tree(new SceneTree),
-      m_panel(new FieldPanel(m_document->undoStack())), m_messages(new MessageBar), m_coin([this](const QString &text) {
-          QMetaObject::invokeMethod(
-              this, [this, text] { m_messages->add(text); }, Qt::QueuedConnection);
-      })
+      m_editors(new QSplitter(Qt::Vertical)), m_nodeEditor(new NodeEditor),
+      m_panel(new FieldPanel(m_document->undoStack())), m_messages(new MessageBar),
+      m_files(new FileActions(m_document, m_messages, this))
 {
+    m_coin.emplace([this](const QString &text) {
+        QMetaObject::invokeMethod(
+            this, [this, text] { m_messages->add(text); }, Qt::QueuedConnection);
+    });
     createCentre();
     createDocks();
-    createFileMenu();
-    createEditMenu();
-    createViewMenu();
-    m_toolsMenu = menuBar()->addMenu(tr("&Tools"));
-    createHelpMenu();
+    createMenus();
     statusBar()->addWidget(m_messages, 1);
     setAcceptDrops(true);
     resize(1200, 800);
 
     connect(m_document, &SceneDocument::opened, this, &MainWindow::showDocument);
     connect(m_document, &SceneDocument::modifiedChanged, this, &MainWindow::setWindowModified);
+    connect(m_files, &FileActions::sceneWanted, this, &MainWindow::finishEditing);
+    connect(m_files, &FileActions::saved, this, &MainWindow::showTitle);
     connect(m_tree, &SceneTree::nodeSelected, m_panel, &FieldPanel::setNode);
+    connect(m_tree, &SceneTree::nodeSelected, m_nodeEditor, &NodeEditor::setNode);
     connect(m_tree, &SceneTree::rightClicked, this, &MainWindow::showContextMenu);
     connect(m_panel, &FieldPanel::message, m_messages, &MessageBar::add);
+    m_plugins = std::make_unique<HbGUIManager>(this);
     showDocument();
 }
 
-MainWindow::~MainWindow() = default;
+MainWindow::~MainWindow()
+{
+    m_coin.reset(); // from here on nobody reads the message bar: the terminal hears what goes wrong
+    m_nodeEditor->setNode(nullptr);
+    m_plugins.reset();
+}
 
 void MainWindow::createCentre()
 {
@@ -88,72 +103,18 @@ void MainWindow::createDocks()
         return dock;
     };
     QDockWidget *scene = addDock(Qt::LeftDockWidgetArea, tr("Scene"), "sceneDock", m_tree);
-    QDockWidget *fields = addDock(Qt::RightDockWidgetArea, tr("Fields"), "fieldsDock", m_panel);
+    QDockWidget *fields = addDock(Qt::RightDockWidgetArea, tr("Fields"), "fieldsDock", m_editors);
+    m_editors->addWidget(m_nodeEditor);
+    m_editors->addWidget(m_panel);
+    m_editors->setStretchFactor(1, 1);
+    m_editors->setChildrenCollapsible(false);
     m_panel->setAccessibleName(tr("Fields of the selected node"));
     resizeDocks({scene, fields}, {280, 420}, Qt::Horizontal);
 }
 
-void MainWindow::createFileMenu()
-{
-    QMenu *menu = menuBar()->addMenu(tr("&File"));
-    const auto add = [&](const QString &text, QKeySequence::StandardKey key, auto slot) {
-        QAction *action = menu->addAction(text);
-        action->setShortcuts(key);
-        connect(action, &QAction::triggered, this, slot);
-    };
-    add(tr("&Open..."), QKeySequence::Open, &MainWindow::chooseAndOpen);
-    add(tr("&Save"), QKeySequence::Save, &MainWindow::save);
-    add(tr("Save &As..."), QKeySequence::SaveAs, &MainWindow::saveAs);
-    menu->addSeparator();
-    add(tr("&Quit"), QKeySequence::Quit, &MainWindow::close);
-}
-
-void MainWindow::createEditMenu()
-{
-    QMenu *menu = menuBar()->addMenu(tr("&Edit"));
-    QAction *undo = m_document->undoStack()->createUndoAction(this, tr("&Undo"));
-    undo->setShortcuts(QKeySequence::Undo);
-    undo->setObjectName(QStringLiteral("undo"));
-    QAction *redo = m_document->undoStack()->createRedoAction(this, tr("&Redo"));
-    redo->setShortcuts(QKeySequence::Redo);
-    redo->setObjectName(QStringLiteral("redo"));
-    menu->addActions({undo, redo});
-}
-
-void MainWindow::createViewMenu()
-{
-    m_viewMenu = menuBar()->addMenu(tr("&View"));
-    if (m_view) {
-        m_viewMenu->addAction(tr("View &All"), m_view, &SceneView::viewAll)->setShortcut(tr("Ctrl+0"));
-        m_viewMenu->addAction(tr("&Home"), m_view, &SceneView::goHome)->setShortcut(tr("Ctrl+Home"));
-        QAction *headlight = m_viewMenu->addAction(tr("Head&light"));
-        headlight->setCheckable(true);
-        connect(headlight, &QAction::triggered, m_view, &SceneView::setHeadlight);
-        connect(m_view, &SceneView::headlightChanged, headlight, &QAction::setChecked);
-        m_viewMenu->addSeparator();
-    }
-    const auto docks = findChildren<QDockWidget *>();
-    for (const QDockWidget *dock : docks)
-        m_viewMenu->addAction(dock->toggleViewAction());
-}
-
-void MainWindow::createHelpMenu()
-{
-    QMenu *menu = menuBar()->addMenu(tr("&Help"));
-    connect(menu->addAction(tr("&About nodescope")), &QAction::triggered, this, &MainWindow::about);
-}
-
 bool MainWindow::open(const QString &fileName)
 {
-    if (!mayDiscard())
-        return false;
-    QStringList messages;
-    const bool opened = m_document->open(fileName, &messages);
-    for (const QString &message : messages)
-        m_messages->add(message);
-    if (!opened && messages.size() > 1)
-        m_messages->add(tr("%1 was not opened: %2").arg(QFileInfo(fileName).fileName(), messages.first()));
-    return opened;
+    return m_files->open(fileName);
 }
 
 bool MainWindow::select(const QString &path, QString *problem)
@@ -179,12 +140,35 @@ QWidget *MainWindow::getSceneWidget()
 
 QWidget *MainWindow::getEditorsWidget()
 {
-    return m_panel;
+    return m_editors;
 }
 
 QMenu *MainWindow::getPluginsMenu()
 {
     return m_toolsMenu;
+}
+
+SoNode *MainWindow::getNode(QTreeWidgetItem *item)
+{
+    return SceneTree::nodeOf(item);
+}
+
+HbFieldEditors *MainWindow::createFieldEditor(SoField *field, const FieldEditorFactory &create)
+{
+    SoFieldContainer *const owner = field ? field->getContainer() : nullptr;
+    if (!owner || !owner->isOfType(SoNode::getClassTypeId())) // no step of the undo stack could keep it alive
+        return HbGUIManagement::createFieldEditor(field, create);
+    const FieldRow::Made made = FieldRow::make(*field, m_document->undoStack(), create);
+    if (made.editor) {
+        auto *const row = new PluginField(*static_cast<SoNode *>(owner), *field, made); // owned by the editor
+        connect(row, &PluginField::message, m_messages, &MessageBar::add);
+    }
+    return made.editor;
+}
+
+void MainWindow::pluginsChanged()
+{
+    m_nodeEditor->setNode(m_tree->selectedNode());
 }
 
 QStringList MainWindow::messages() const
@@ -194,7 +178,7 @@ QStringList MainWindow::messages() const
 
 void MainWindow::closeEvent(QCloseEvent *event)
 {
-    if (!mayDiscard()) {
+    if (!m_files->mayDiscard()) {
         event->ignore();
         return;
     }
@@ -217,56 +201,11 @@ void MainWindow::dropEvent(QDropEvent *event)
     open(droppedFile(event->mimeData()));
 }
 
-void MainWindow::chooseAndOpen()
-{
-    const QString directory = QFileInfo(m_document->fileName()).path();
-    const QString fileName = QFileDialog::getOpenFileName(
-        this, tr("Open a Scene"), directory, tr("Scenes (*.iv *.wrl *.iv.gz *.wrl.gz *.wrz);;All files (*)"));
-    if (!fileName.isEmpty())
-        open(fileName);
-}
-
-bool MainWindow::save()
-{
-    return m_document->fileName().isEmpty() ? saveAs() : saveTo(m_document->fileName());
-}
-
-bool MainWindow::saveAs()
-{
-    const QString fileName = QFileDialog::getSaveFileName(this, tr("Save the Scene"), m_document->fileName(),
-                                                          tr("Scenes (*.iv *.wrl);;All files (*)"));
-    return !fileName.isEmpty() && saveTo(fileName);
-}
-
-bool MainWindow::saveTo(const QString &fileName)
-{
-    finishEditing();
-    QStringList messages;
-    const bool saved = m_document->save(fileName, &messages);
-    if (saved)
-        messages.append(tr("Saved %1").arg(QDir::toNativeSeparators(fileName)));
-    for (const QString &message : messages)
-        m_messages->add(message);
-    showTitle();
-    return saved;
-}
-
-/// Asks where there is something to lose.
-bool MainWindow::mayDiscard()
-{
-    finishEditing();
-    if (!m_document->isModified())
-        return true;
-    const auto answer = QMessageBox::warning(this, tr("Unsaved Changes"), tr("Save the changes to this scene?"),
-                                             QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel);
-    return answer == QMessageBox::Discard || (answer == QMessageBox::Save && save());
-}
-
 /// What was typed but not committed counts: an editor commits when it loses the focus.
 void MainWindow::finishEditing()
 {
     QWidget *editor = focusWidget();
-    if (!editor || !m_panel->isAncestorOf(editor))
+    if (!editor || !m_editors->isAncestorOf(editor))
         return;
     editor->clearFocus();
     editor->setFocus();
@@ -286,21 +225,4 @@ void MainWindow::showTitle()
     setWindowTitle(tr("%1[*] - nodescope").arg(name.isEmpty() ? tr("No scene") : name));
     setWindowFilePath(m_document->fileName());
     setWindowModified(m_document->isModified());
-}
-
-void MainWindow::showContextMenu(QTreeWidgetItem *item)
-{
-    auto *menu = new QMenu(this);
-    menu->setAttribute(Qt::WA_DeleteOnClose);
-    const QString path = pathText(m_document->root(), m_tree->pathOf(item));
-    menu->addAction(tr("&Copy Path %1").arg(path), this, [path] { QGuiApplication::clipboard()->setText(path); });
-    menu->popup(QCursor::pos());
-}
-
-void MainWindow::about()
-{
-    QMessageBox::about(this, tr("About nodescope"),
-                       tr("<b>nodescope %1</b><p>Shows a Coin scene and edits the fields of its nodes.</p>"
-                          "<p>The reference tool of HarborAPI.</p>")
-                           .arg(QCoreApplication::applicationVersion()));
 }

@@ -8,15 +8,21 @@
 
 #include <HbGUIManagement.h>
 
+#include <memory>
+#include <optional>
+
 class FieldPanel;
+class FileActions;
+class HbGUIManager;
 class MessageBar;
+class NodeEditor;
 class SceneDocument;
 class SceneTree;
 class SceneView;
+class QSplitter;
 class QTreeWidgetItem;
-class QUndoStack;
 
-/// The tool's window: the scene's tree, its picture, the fields of the selected node, and messages.
+/// The tool's window: the scene's tree, its picture, the editors of the selected node, messages, and plug-ins.
 class MainWindow : public HbGUIManagement
 {
     Q_OBJECT
@@ -35,6 +41,9 @@ public:
     QWidget *getSceneWidget() override;
     QWidget *getEditorsWidget() override;
     QMenu *getPluginsMenu() override;
+    SoNode *getNode(QTreeWidgetItem *item) override;
+    HbFieldEditors *createFieldEditor(SoField *field, const FieldEditorFactory &create) override;
+    void pluginsChanged() override;
 
     SceneTree *tree() const { return m_tree; }
     FieldPanel *panel() const { return m_panel; }
@@ -51,16 +60,13 @@ protected:
 private:
     void createCentre();
     void createDocks();
+    void createMenus();
     void createFileMenu();
     void createEditMenu();
     void createViewMenu();
     void createHelpMenu();
 
-    void chooseAndOpen();
-    bool save();
-    bool saveAs();
-    bool saveTo(const QString &fileName);
-    bool mayDiscard();
+    void listDocks();
     void finishEditing();
     void showDocument();
     void showTitle();
@@ -69,12 +75,16 @@ private:
 
     SceneDocument *m_document;
     SceneTree *m_tree;
+    QSplitter *m_editors; ///< of the selected node: its own, over those of its fields
+    NodeEditor *m_nodeEditor;
     FieldPanel *m_panel;
     SceneView *m_view = nullptr;
     MessageBar *m_messages;
+    FileActions *m_files;
     QMenu *m_viewMenu = nullptr;
     QMenu *m_toolsMenu = nullptr;
-    CoinMessages m_coin; ///< what Coin says between reading and writing, say while drawing
+    std::optional<CoinMessages> m_coin; ///< what Coin says between reading and writing, say while drawing
+    std::unique_ptr<HbGUIManager> m_plugins;
     bool m_remembersGeometry = false;
 };
 

@@ -3,8 +3,12 @@
 
 #include "Options.h"
 
+#include <HbGUIManager.h>
+
 #include <QCommandLineParser>
 #include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
 #include <QRegularExpression>
 
 #include <algorithm>
@@ -54,6 +58,16 @@ void print(FILE *stream, const QString &text)
     std::fputc('\n', stream);
 }
 
+QString configuration()
+{
+    const QString file = HbGUIManager::getPreferencesFile();
+    const char *const place = QFileInfo::exists(file) ? "# %1" : "# %1 (not there)";
+    QStringList lines{QCoreApplication::translate("Options", place).arg(QDir::toNativeSeparators(file))};
+    for (const HbGUIManager::Preference &preference : HbGUIManager::getPreferences())
+        lines << QStringList({preference.key, preference.value, preference.origin}).join(QLatin1Char('\t'));
+    return lines.join(QLatin1Char('\n'));
+}
+
 } // namespace
 
 std::optional<Options> Options::parse(const QStringList &arguments, int *exitCode)
@@ -74,11 +88,14 @@ std::optional<Options> Options::parse(const QStringList &arguments, int *exitCod
     const QCommandLineOption libraries
         = option("allow-node-libraries", "Runs shared libraries that are named after node types which the scene uses.");
 
+    const QCommandLineOption config
+        = option("print-config", "Prints the preferences, their values and where these come from.");
+
     QCommandLineParser parser;
     parser.setApplicationDescription(description());
     const QCommandLineOption help({QStringLiteral("h"), QStringLiteral("help")}, tr("Shows this help."));
     const QCommandLineOption version({QStringLiteral("v"), QStringLiteral("version")}, tr("Shows the version."));
-    parser.addOptions({help, version, screenshot, grab, select, size, demo, libraries});
+    parser.addOptions({help, version, screenshot, grab, select, size, demo, libraries, config});
     parser.addPositionalArgument(QStringLiteral("scene"), tr("The scene to open."), QStringLiteral("[scene]"));
 
     const bool parsed = parser.parse(arguments);
@@ -89,6 +106,10 @@ std::optional<Options> Options::parse(const QStringList &arguments, int *exitCod
     }
     if (parsed && parser.isSet(version)) {
         print(stdout, QCoreApplication::applicationName() + QLatin1Char(' ') + QCoreApplication::applicationVersion());
+        return {};
+    }
+    if (parsed && parser.isSet(config)) {
+        print(stdout, configuration());
         return {};
     }
 
@@ -120,7 +141,7 @@ std::optional<Options> Options::parse(const QStringList &arguments, int *exitCod
 bool Options::asksForText(int argc, char **argv)
 {
     return std::any_of(argv + 1, argv + argc, [](const char *argument) {
-        constexpr const char *names[] = {"-h", "--help", "-v", "--version"};
+        constexpr const char *names[] = {"-h", "--help", "-v", "--version", "--print-config"};
         return std::any_of(std::begin(names), std::end(names),
                            [&](const char *name) { return std::strcmp(argument, name) == 0; });
     });

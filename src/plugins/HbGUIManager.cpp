@@ -1,0 +1,235 @@
+// SPDX-FileCopyrightText: 2026 The HarborAPI authors
+// SPDX-License-Identifier: BSD-3-Clause
+
+#include <HbGUIManager.h>
+
+#include <HbEditors.h>
+#include <HbNscPlugins.h>
+#include <HbNscPluginsManagerDialog.h>
+
+#include "support/DeletionWatch.h"
+#include "support/PathExpansion.h"
+#include "support/Preferences.h"
+#include "support/SharedLibrary.h"
+
+#include <QApplication>
+#include <QFile>
+
+#include <Inventor/errors/SoDebugError.h>
+
+#include <algorithm>
+#include <dirent.h>
+#include <exception>
+#include <memory>
+#include <typeinfo>
+
+const SbString HbGUIManager::DEFAULT_PLUGIN_PATH("$KRNHOME/$KRNARCH/lib");
+
+namespace
+{
+constexpr const char *source = "HbGUIManager";
+constexpr const char *noPluginsKey = "NSC_NO_PLUGINS";
+constexpr const char *directoryKey = "NSC_PLUGINS_DIRECTORY";
+
+Preferences::Found<bool> noPlugins()
+{
+    return Preferences::boolean(noPluginsKey, true);
+}
+
+QByteArray bytesOf(const SbString &text)
+{
+    return QByteArray(text.getString());
+}
+
+struct DirectoryEntry {
+    QByteArray name;
+    bool isDirectory;
+};
+
+/// Closed again before any of its directories is entered, so that depth costs no open files.
+std::vector<DirectoryEntry> entriesOf(const QByteArray &directory)
+{
+    std::vector<DirectoryEntry> entries;
+    const std::unique_ptr<DIR, int (*)(DIR *)> stream(opendir(directory.constData()), closedir);
+    while (const dirent *const entry = stream ? readdir(stream.get()) : nullptr)
+        entries.push_back({entry->d_name, entry->d_type == DT_DIR});
+    return entries;
+}
+
+/// The name of the function @p tail of the library's class as compilers write it.
+QByteArray entryPoint(const SbString &path, const char *tail)
+{
+    QByteArray name = PathExpansion::baseName(bytesOf(path));
+    if (name.endsWith(SharedLibrary::suffix))
+        name.chop(int(qstrlen(SharedLibrary::suffix)));
+    if (name.startsWith("lib"))
+        name.remove(0, 3);
+    return "_ZN" + QByteArray::number(name.size()) + name + tail;
+}
+
+/// Runs a plug-in's own code, from which no exception gets out.
+template <class Call> void callPlugin(const SbString &path, Call call)
+{
+    try {
+        call();
+    } catch (const std::exception &error) {
+        SoDebugError::post(source, "Plugin '%s' threw an exception: %s", path.getString(), error.what());
+    } catch (...) {
+        SoDebugError::post(source, "Plugin '%s' threw an exception", path.getString());
+    }
+}
+
+/// The widgets whose class is defined in the library.
+QWidgetList widgetsOf(const QByteArray &library)
+{
+    QWidgetList widgets = QApplication::allWidgets();
+    const auto isForeign = [&](const QWidget *widget) { return !SharedLibrary::holds(library, &typeid(*widget)); };
+    widgets.erase(std::remove_if(widgets.begin(), widgets.end(), isForeign), widgets.end());
+    return widgets;
+}
+
+void withdrawEditors(const QByteArray &library)
+{
+    const QWidgetList widgets = widgetsOf(library);
+    for (QWidget *const widget : widgets) {
+        if (auto *const editor = dynamic_cast<HbEditors *>(widget)) {
+            editor->unregisterEditor();
+            editor->hide();
+        }
+    }
+}
+
+/// Whatever waits to run code of a library runs while there is still something to run.
+void flushEvents()
+{
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::MetaCall);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
+void release(const SbString &path, void (*releaseInstance)())
+{
+    const QByteArray library = bytesOf(path);
+    flushEvents();
+    withdrawEditors(library);
+    callPlugin(path, releaseInstance);
+    flushEvents();
+    if (widgetsOf(library).isEmpty()) {
+        SharedLibrary::unload(library);
+        return;
+    }
+    SoDebugError::postWarning(source, "Plugin '%s' left widgets behind: its code stays in memory", path.getString());
+    SharedLibrary::abandon(library);
+}
+} // namespace
+
+HbGUIManager::HbGUIManager(HbGUIManagement *tool) : management(tool)
+{
+    ensureCoinStarted();
+    if (QWidget *const startup = tool ? tool->getStartupWidget() : nullptr)
+        startup->setVisible(false);
+    if (!noPlugins().value)
+        loadHbPlugins();
+    managerDialog = new HbNscPluginsManagerDialog(management, this); // owned
+    for (HbNscPlugins *const plugin : plugins)
+        managerDialog->insertPlugin(plugin);
+}
+
+HbGUIManager::~HbGUIManager()
+{
+    for (const QByteArray &path : filesPaths)
+        unloadPlugin(path.constData());
+    filesPaths.clear();
+    delete managerDialog;
+}
+
+/// What the preference says is taken as it stands; only the default is expanded.
+SbString HbGUIManager::pluginsDirectory()
+{
+    const QByteArray directory = Preferences::text(directoryKey, bytesOf(DEFAULT_PLUGIN_PATH)).value;
+    return (directory == DEFAULT_PLUGIN_PATH.getString() ? PathExpansion::expand(directory) : directory).constData();
+}
+
+void HbGUIManager::loadHbPlugins()
+{
+    pluginsPath = pluginsDirectory();
+    buildFilesPaths(pluginsPath);
+    const std::vector<QByteArray> found = filesPaths;
+    for (const QByteArray &path : found)
+        loadPlugin(path.constData());
+}
+
+void HbGUIManager::buildFilesPaths(const SbString &directory)
+{
+    for (const DirectoryEntry &entry : entriesOf(bytesOf(directory))) {
+        if (entry.name.startsWith('.'))
+            continue;
+        const QByteArray path = bytesOf(directory) + '/' + entry.name;
+        if (entry.isDirectory)
+            buildFilesPaths(path.constData());
+        else if (path.contains("Nsc_") && path.contains(".so")) // anywhere in it, so that versioned libraries count
+            filesPaths.push_back(path);
+    }
+}
+
+HbNscPlugins *HbGUIManager::loadPlugin(const SbString &path)
+{
+    const QByteArray symbol = entryPoint(path, "11getInstanceEP15HbGUIManagement");
+    if (!SharedLibrary::load(bytesOf(path), true)) {
+        SoDebugError::post(source, "Could not load plugin '%s' !", path.getString());
+        return nullptr;
+    }
+    void *const address = SharedLibrary::symbol(bytesOf(path), symbol);
+    if (!address) {
+        SoDebugError::post(source, "Could not locate method '%s'\n  in '%s' !", symbol.constData(), path.getString());
+        return nullptr;
+    }
+    HbNscPlugins *plugin = nullptr;
+    callPlugin(path, [&] {
+        plugin = reinterpret_cast<HbNscPlugins *(*)(HbGUIManagement *)>(address)(management);
+        if (!plugin)
+            SoDebugError::post(source, "Plugin '%s' returned no object", path.getString());
+    });
+    if (plugin) {
+        plugin->setPath(path);
+        plugins.push_back(plugin);
+    }
+    return plugin;
+}
+
+void HbGUIManager::unloadPlugin(const SbString &path)
+{
+    void *const address = SharedLibrary::symbol(bytesOf(path), entryPoint(path, "15releaseInstanceEv"));
+    if (address)
+        release(path, reinterpret_cast<void (*)()>(address));
+    else
+        SoError::post("Could not terminate %s !", path.getString());
+}
+
+SbString HbGUIManager::getPluginsPath() const
+{
+    return pluginsPath;
+}
+
+std::vector<HbGUIManager::Preference> HbGUIManager::getPreferences()
+{
+    const auto nameOf = [](Preferences::Origin origin) {
+        switch (origin) {
+        case Preferences::Origin::Environment:
+            return QStringLiteral("environment");
+        case Preferences::Origin::File:
+            return QStringLiteral("file");
+        default:
+            return QStringLiteral("default");
+        }
+    };
+    const auto isOff = noPlugins();
+    return {{QLatin1String(noPluginsKey), isOff.value ? QStringLiteral("true") : QStringLiteral("false"),
+             nameOf(isOff.origin)},
+            {QLatin1String(directoryKey), QFile::decodeName(pluginsDirectory().getString()),
+             nameOf(Preferences::text(directoryKey, {}).origin)}};
+}
+
+QString HbGUIManager::getPreferencesFile()
+{
+    return Preferences::fileName();
+}

@@ -1,0 +1,155 @@
+// SPDX-FileCopyrightText: 2026 The HarborAPI authors
+// SPDX-License-Identifier: BSD-3-Clause
+
+#include <HbNscPluginsManagerDialog.h>
+
+#include <HbGUIManager.h>
+#include <HbNscPlugins.h>
+
+#include <QAction>
+#include <QFile>
+#include <QFileDialog>
+#include <QMenu>
+#include <QPushButton>
+#include <QTreeWidget>
+#include <QVBoxLayout>
+
+namespace
+{
+enum Column { Name, Description, Help, Version, Path, ColumnCount };
+}
+
+HbNscPluginsManagerDialog::HbNscPluginsManagerDialog(HbGUIManagement *tool, HbGUIManager *pluginManager)
+    : management(tool), manager(pluginManager)
+{
+    buildDialog();
+}
+
+HbNscPluginsManagerDialog::~HbNscPluginsManagerDialog()
+{
+    delete frame;
+}
+
+void HbNscPluginsManagerDialog::addMenuEntry()
+{
+    QMenu *const menu = management ? management->getPluginsMenu() : nullptr;
+    if (!menu)
+        return;
+    auto *const separator = new QAction(this); // as children of this object both leave the menu with it
+    separator->setSeparator(true);
+    auto *const entry = new QAction(tr("Plug-ins"), this);
+    connect(entry, &QAction::triggered, this, &HbNscPluginsManagerDialog::raiseDialog);
+    menu->addActions({separator, entry});
+}
+
+void HbNscPluginsManagerDialog::buildDialog()
+{
+    addMenuEntry();
+    frame = new QFrame; // deleted by the destructor
+    frame->setObjectName(QStringLiteral("HbNscPluginsManagerDialog"));
+    frame->setWindowTitle(tr("Plug-ins Management"));
+    frame->resize(640, 480);
+    frame->setAttribute(Qt::WA_QuitOnClose, false); // the tool ends with its main window
+
+    const auto addButton = [this](const char *name, const QString &text, const QString &toolTip, auto slot) {
+        auto *const button = new QPushButton(text, frame);
+        button->setObjectName(QLatin1String(name));
+        button->setToolTip(toolTip);
+        connect(button, &QPushButton::clicked, this, slot);
+        return button;
+    };
+    auto *const add
+        = addButton("addButton", tr("Add"), tr("Loads a plug-in and start it."), &HbNscPluginsManagerDialog::addPlugin);
+    auto *const remove
+        = addButton("removeButton", tr("Remove"), tr("Unloads a plug-in."), &HbNscPluginsManagerDialog::removePlugin);
+
+    pluginsTree = new QTreeWidget(frame);
+    pluginsTree->setObjectName(QStringLiteral("pluginsTree"));
+    pluginsTree->setAccessibleName(tr("Plug-ins"));
+    pluginsTree->setColumnCount(ColumnCount);
+    pluginsTree->setHeaderLabels({tr("Name"), tr("Description"), tr("Help"), tr("Version"), tr("Path")});
+    pluginsTree->setColumnHidden(Path, true);
+    pluginsTree->setUniformRowHeights(true);
+
+    auto *const layout = new QVBoxLayout(frame);
+    layout->setObjectName(QStringLiteral("layout"));
+    layout->addWidget(pluginsTree);
+    auto *const buttons = new QHBoxLayout;
+    buttons->setObjectName(QStringLiteral("buttonLayout"));
+    buttons->addWidget(add);
+    buttons->addWidget(remove);
+    layout->addLayout(buttons);
+    connect(frame, &QObject::destroyed, this, &HbNscPluginsManagerDialog::hideDialog);
+}
+
+void HbNscPluginsManagerDialog::insertPlugin(HbNscPlugins *plugin)
+{
+    if (!plugin || !pluginsTree)
+        return;
+    const auto textOf = [plugin](auto getter) {
+        try {
+            return QString::fromLatin1((plugin->*getter)().getString());
+        } catch (...) { // a plug-in that cannot tell its name is listed all the same
+            return QString();
+        }
+    };
+    new QTreeWidgetItem(pluginsTree,
+                        {textOf(&HbNscPlugins::getName), textOf(&HbNscPlugins::getDescription),
+                         textOf(&HbNscPlugins::getHelp), textOf(&HbNscPlugins::getVersion),
+                         textOf(&HbNscPlugins::getPath)}); // owned by the tree
+}
+
+void HbNscPluginsManagerDialog::addPlugin()
+{
+    if (!manager)
+        return;
+    const QString filter = tr("Nodescope plug-ins (") + QLatin1String("*.so") + QLatin1Char(')');
+    const QPointer<HbNscPluginsManagerDialog> self(this);
+    const QString fileName = QFileDialog::getOpenFileName(
+        nullptr, tr("Load Nodescope Plug-in"), QFile::decodeName(manager->getPluginsPath().getString()), filter);
+    if (!self || fileName.isEmpty())
+        return;
+    HbNscPlugins *const plugin = manager->loadPlugin(QFile::encodeName(fileName).constData());
+    insertPlugin(plugin);
+    if (plugin && management)
+        management->pluginsChanged();
+}
+
+void HbNscPluginsManagerDialog::removePlugin()
+{
+    const QTreeWidgetItem *const current = pluginsTree ? pluginsTree->currentItem() : nullptr;
+    if (!manager || !current || !current->isSelected()) // the keyboard may stand in a row without selecting it
+        return;
+    const QPersistentModelIndex row(pluginsTree->currentIndex());
+    manager->unloadPlugin(current->text(Path).toLatin1().constData());
+    if (row.isValid() && pluginsTree)
+        pluginsTree->model()->removeRow(row.row());
+    if (management)
+        management->pluginsChanged();
+    repaintTool();
+}
+
+/// Whatever the plug-in showed disappears at once.
+void HbNscPluginsManagerDialog::repaintTool()
+{
+    QWidgetList widgets{pluginsTree};
+    if (management)
+        widgets << management << management->menuWidget() << management->getSceneWidget()
+                << management->getEditorsWidget();
+    for (QWidget *const widget : std::as_const(widgets)) {
+        if (widget)
+            widget->repaint();
+    }
+}
+
+void HbNscPluginsManagerDialog::raiseDialog()
+{
+    if (frame && !frame->isVisible())
+        frame->show();
+}
+
+void HbNscPluginsManagerDialog::hideDialog()
+{
+    if (frame && frame->isVisible()) // no longer there when it is its end that is heard of
+        frame->hide();
+}

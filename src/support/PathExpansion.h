@@ -1,0 +1,19 @@
+// SPDX-FileCopyrightText: 2026 The HarborAPI authors
+// SPDX-License-Identifier: BSD-3-Clause
+
+#ifndef PATHEXPANSION_H
+#define PATHEXPANSION_H
+
+#include <QByteArray>
+
+/// File paths as bytes, which is what the system takes them for.
+namespace PathExpansion
+{
+/// Puts the environment's values in the place of $NAME and ${NAME}, once; what is unset or empty stays as written.
+QByteArray expand(const QByteArray &path);
+
+/// What follows the last slash.
+QByteArray baseName(const QByteArray &path);
+} // namespace PathExpansion
+
+#endif

@@ -1,0 +1,45 @@
+// SPDX-FileCopyrightText: 2026 The HarborAPI authors
+// SPDX-License-Identifier: BSD-3-Clause
+
+#ifndef NODEEDITOR_H
+#define NODEEDITOR_H
+
+#include <QFrame>
+#include <QPointer>
+
+#include <memory>
+
+class HbEditors;
+class QLabel;
+class QScrollArea;
+class SoNode;
+
+/**
+ * Shows the editor that a plug-in has registered for the selected node; hidden while there is none.
+ *
+ * The editor stays the plug-in's: it is borrowed while its node is selected, and then goes back to its former parent.
+ */
+class NodeEditor : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit NodeEditor(QWidget *parent = nullptr);
+    ~NodeEditor() override;
+
+    /// Asks the registry for the editor of @p node, shows it, and keeps the node alive meanwhile. Null gives back.
+    void setNode(SoNode *node);
+
+private:
+    void commit();
+    void borrow(HbEditors *editor);
+    void giveBack();
+
+    std::shared_ptr<SoNode> m_node;
+    QPointer<QFrame> m_editor;
+    QPointer<QWidget> m_formerParent;
+    QLabel *m_title;
+    QScrollArea *m_area;
+};
+
+#endif
