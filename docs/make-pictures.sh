@@ -2,11 +2,13 @@
 # SPDX-FileCopyrightText: 2026 The HarborAPI authors
 # SPDX-License-Identifier: BSD-3-Clause
 #
-# Makes the pictures of the documents anew with a built nodescope: docs/make-pictures.sh [nodescope]
+# Makes the pictures of the documents anew with a built nodescope: docs/make-pictures.sh [nodescope [plugins]]
+# "plugins" is the directory in which examples/plugins was built. The picture of the window Plug-ins is made by hand.
 
 set -euo pipefail
 
 nodescope=$(realpath -- "${1:-$(dirname "$0")/../build/release/bin/nodescope}")
+plugins=${2:+$(realpath -- "$2")}
 cd "$(dirname "$0")/.."
 
 . packaging/debian-packages.sh
@@ -55,7 +57,16 @@ grab Look diffuseColor=HbMFColorWidget shininess=HbMFFloatWidget
 grab Sign string=HbMFStringWidget
 grab Lists poses=HbMFMatrixWidget turns=HbMFDefaultFieldWidget
 
-QT_QPA_PLATFORM=xcb xvfb-run -a -s "-screen 0 1600x1000x24 +extension GLX" \
-    "$nodescope" --size 1400x850 --select Sun --screenshot docs/images/nodescope.png examples/scenes/harbour.iv
+# picture FILE SCENE NODE: the whole window
+picture() {
+    QT_QPA_PLATFORM=xcb xvfb-run -a -s "-screen 0 1600x1000x24 +extension GLX" \
+        "$nodescope" --size 1400x850 --select "$3" --screenshot "docs/images/$1.png" "$2"
+}
+
+picture nodescope examples/scenes/harbour.iv Sun
+if [ -n "$plugins" ]; then
+    NSC_NO_PLUGINS=false NSC_PLUGINS_DIRECTORY=$plugins \
+        picture plugins/nodescope examples/plugins/camera-editor/photo.iv Front
+fi
 
 echo "docs/images: nodescope.png and $(find docs/images/editors -name '*.png' | wc -l) editors"

@@ -6,7 +6,6 @@
 
 #include <HbGUIManagement.h>
 
-#include <QFrame>
 #include <QObject>
 #include <QPointer>
 
@@ -50,7 +49,7 @@ private:
 
     QPointer<HbGUIManagement> management;
     HbGUIManager *manager;
-    QPointer<QFrame> frame; ///< a top-level window
+    QPointer<QWidget> frame; ///< a top-level QFrame, of which no more than this is left when its end is heard of
     QPointer<QTreeWidget> pluginsTree; ///< child of the frame
 };
 

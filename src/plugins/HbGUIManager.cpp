@@ -17,7 +17,6 @@
 
 #include <Inventor/errors/SoDebugError.h>
 
-#include <algorithm>
 #include <dirent.h>
 #include <exception>
 #include <memory>
@@ -67,58 +66,66 @@ QByteArray entryPoint(const SbString &path, const char *tail)
     return "_ZN" + QByteArray::number(name.size()) + name + tail;
 }
 
-/// Runs a plug-in's own code, from which no exception gets out.
-template <class Call> void callPlugin(const SbString &path, Call call)
+/// Runs a plug-in's own code, from which no exception gets out; returns whether it came to its end.
+template <class Call> bool callPlugin(const SbString &path, Call call)
 {
     try {
         call();
+        return true;
     } catch (const std::exception &error) {
         SoDebugError::post(source, "Plugin '%s' threw an exception: %s", path.getString(), error.what());
     } catch (...) {
         SoDebugError::post(source, "Plugin '%s' threw an exception", path.getString());
     }
+    return false;
 }
 
 /// The widgets whose class is defined in the library.
-QWidgetList widgetsOf(const QByteArray &library)
+std::vector<QPointer<QWidget>> widgetsOf(void *library)
 {
-    QWidgetList widgets = QApplication::allWidgets();
-    const auto isForeign = [&](const QWidget *widget) { return !SharedLibrary::holds(library, &typeid(*widget)); };
-    widgets.erase(std::remove_if(widgets.begin(), widgets.end(), isForeign), widgets.end());
+    std::vector<QPointer<QWidget>> widgets;
+    for (QWidget *const widget : QApplication::allWidgets()) {
+        if (SharedLibrary::holds(library, &typeid(*widget)))
+            widgets.emplace_back(widget);
+    }
     return widgets;
 }
 
-void withdrawEditors(const QByteArray &library)
+void withdrawEditors(void *library)
 {
-    const QWidgetList widgets = widgetsOf(library);
-    for (QWidget *const widget : widgets) {
-        if (auto *const editor = dynamic_cast<HbEditors *>(widget)) {
+    for (const QPointer<QWidget> &widget : widgetsOf(library)) {
+        if (auto *const editor = dynamic_cast<HbEditors *>(widget.data())) { // one may take others along as it goes
             editor->unregisterEditor();
             editor->hide();
         }
     }
 }
 
-/// Whatever waits to run code of a library runs while there is still something to run.
+/// What waits to run code of a library runs while there is still something to run. Calls leave deletions behind and
+/// deletions calls, hence the rounds; something that never ends must not keep the tool here.
 void flushEvents()
 {
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::MetaCall);
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    constexpr int rounds = 8;
+    for (int round = 0; round < rounds; ++round) {
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::MetaCall);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
 }
 
 void release(const SbString &path, void (*releaseInstance)())
 {
-    const QByteArray library = bytesOf(path);
+    void *const library = SharedLibrary::take(bytesOf(path)); // what is called from here on cannot release it again
     flushEvents();
     withdrawEditors(library);
-    callPlugin(path, releaseInstance);
+    const bool isReleased = callPlugin(path, releaseInstance);
     flushEvents();
-    if (widgetsOf(library).isEmpty()) {
-        SharedLibrary::unload(library);
+    if (!isReleased) // who knows what of it is still in use: the code stays
         return;
-    }
-    SoDebugError::postWarning(source, "Plugin '%s' left widgets behind: its code stays in memory", path.getString());
-    SharedLibrary::abandon(library);
+    if (widgetsOf(library).empty())
+        SharedLibrary::close(library);
+    else
+        SoDebugError::postWarning(source, "Plugin '%s' left widgets behind: its code stays in memory",
+                                  path.getString());
 }
 } // namespace
 

@@ -9,6 +9,7 @@
 #include <QAction>
 #include <QFile>
 #include <QFileDialog>
+#include <QFrame>
 #include <QMenu>
 #include <QPushButton>
 #include <QTreeWidget>
@@ -70,6 +71,9 @@ void HbNscPluginsManagerDialog::buildDialog()
     pluginsTree->setHeaderLabels({tr("Name"), tr("Description"), tr("Help"), tr("Version"), tr("Path")});
     pluginsTree->setColumnHidden(Path, true);
     pluginsTree->setUniformRowHeights(true);
+    pluginsTree->setRootIsDecorated(false);
+    for (const Column column : {Description, Help})
+        pluginsTree->setColumnWidth(column, 200);
 
     auto *const layout = new QVBoxLayout(frame);
     layout->setObjectName(QStringLiteral("layout"));
@@ -93,10 +97,13 @@ void HbNscPluginsManagerDialog::insertPlugin(HbNscPlugins *plugin)
             return QString();
         }
     };
-    new QTreeWidgetItem(pluginsTree,
-                        {textOf(&HbNscPlugins::getName), textOf(&HbNscPlugins::getDescription),
-                         textOf(&HbNscPlugins::getHelp), textOf(&HbNscPlugins::getVersion),
-                         textOf(&HbNscPlugins::getPath)}); // owned by the tree
+    const QStringList texts{textOf(&HbNscPlugins::getName), textOf(&HbNscPlugins::getDescription),
+                            textOf(&HbNscPlugins::getHelp), textOf(&HbNscPlugins::getVersion),
+                            textOf(&HbNscPlugins::getPath)};
+    auto *const row = new QTreeWidgetItem(pluginsTree, texts); // owned by the tree
+    for (const Column column : {Description, Help}) // long, as a rule
+        row->setToolTip(column, row->text(column));
+    pluginsTree->resizeColumnToContents(Name);
 }
 
 void HbNscPluginsManagerDialog::addPlugin()
@@ -150,6 +157,7 @@ void HbNscPluginsManagerDialog::raiseDialog()
 
 void HbNscPluginsManagerDialog::hideDialog()
 {
-    if (frame && frame->isVisible()) // no longer there when it is its end that is heard of
-        frame->hide();
+    auto *const window = qobject_cast<QFrame *>(frame.data()); // no longer one when it is its end that is heard of
+    if (window && window->isVisible())
+        window->hide();
 }

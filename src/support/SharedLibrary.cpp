@@ -51,6 +51,15 @@ bool isWholeLibrary(const std::string &path)
     return true;
 }
 
+/// The dynamic linker's own record of an open library; null for null.
+const link_map *mapOf(void *library)
+{
+    link_map *map = nullptr;
+    if (library)
+        dlinfo(library, RTLD_DI_LINKMAP, &map);
+    return map;
+}
+
 /// A bare file name is one in the working directory and not one of the system's libraries.
 QByteArray unmistakable(const QByteArray &path)
 {
@@ -63,14 +72,15 @@ bool SharedLibrary::load(const QByteArray &path, bool resolveNow)
     if (handles().count(path))
         return true;
     if (!isWholeLibrary(path.toStdString())) {
-        qCDebug(plugins) << path << "cannot be read, is no library for this machine, or is cut short";
+        qCDebug(plugins, "%s cannot be read, is no library for this machine, or is cut short", path.constData());
         return false;
     }
     void *const handle = dlopen(unmistakable(path).constData(), (resolveNow ? RTLD_NOW : RTLD_LAZY) | RTLD_LOCAL);
     if (!handle) {
-        qCDebug(plugins) << dlerror();
+        qCDebug(plugins, "%s", dlerror());
         return false;
     }
+    qCDebug(plugins, "%s is open", path.constData());
     handles().emplace(path, handle);
     return true;
 }
@@ -81,23 +91,23 @@ void *SharedLibrary::symbol(const QByteArray &path, const QByteArray &name)
     return library != handles().end() ? dlsym(library->second, name.constData()) : nullptr;
 }
 
-bool SharedLibrary::holds(const QByteArray &path, const void *address)
-{
-    const auto library = handles().find(path);
-    link_map *map = nullptr;
-    Dl_info info;
-    return library != handles().end() && dlinfo(library->second, RTLD_DI_LINKMAP, &map) == 0
-        && dladdr(address, &info) != 0 && reinterpret_cast<ElfW(Addr)>(info.dli_fbase) == map->l_addr;
-}
-
-void SharedLibrary::unload(const QByteArray &path)
+void *SharedLibrary::take(const QByteArray &path)
 {
     const auto library = handles().extract(path);
-    if (library)
-        dlclose(library.mapped());
+    return library ? library.mapped() : nullptr;
 }
 
-void SharedLibrary::abandon(const QByteArray &path)
+bool SharedLibrary::holds(void *library, const void *address)
 {
-    handles().erase(path);
+    void *holder = nullptr;
+    Dl_info info;
+    return dladdr1(address, &info, &holder, RTLD_DL_LINKMAP) != 0 && holder && holder == mapOf(library);
+}
+
+void SharedLibrary::close(void *library)
+{
+    if (!library)
+        return;
+    qCDebug(plugins, "%s is closed", mapOf(library)->l_name);
+    dlclose(library);
 }

@@ -24,14 +24,14 @@ bool load(const QByteArray &path, bool resolveNow);
 /// The address of a symbol; null where there is none, or where the library is not open.
 void *symbol(const QByteArray &path, const QByteArray &name);
 
-/// Whether @p address lies in the open library.
-bool holds(const QByteArray &path, const void *address);
+/// Forgets the library, which stays open, and returns its handle.
+void *take(const QByteArray &path);
 
-/// Closes the library and forgets it.
-void unload(const QByteArray &path);
+/// Whether @p address lies in the library that take() returned.
+bool holds(void *library, const void *address);
 
-/// Forgets the library and leaves its code where it is until the process ends.
-void abandon(const QByteArray &path);
+/// Closes a library that take() returned.
+void close(void *library);
 } // namespace SharedLibrary
 
 #endif

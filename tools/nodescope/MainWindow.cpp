@@ -65,8 +65,8 @@ MainWindow::MainWindow(QWidget *parent)
     connect(m_document, &SceneDocument::modifiedChanged, this, &MainWindow::setWindowModified);
     connect(m_files, &FileActions::sceneWanted, this, &MainWindow::finishEditing);
     connect(m_files, &FileActions::saved, this, &MainWindow::showTitle);
+    connect(m_tree, &SceneTree::nodeSelected, m_nodeEditor, &NodeEditor::setNode); // first, so that Tab comes to it first
     connect(m_tree, &SceneTree::nodeSelected, m_panel, &FieldPanel::setNode);
-    connect(m_tree, &SceneTree::nodeSelected, m_nodeEditor, &NodeEditor::setNode);
     connect(m_tree, &SceneTree::rightClicked, this, &MainWindow::showContextMenu);
     connect(m_panel, &FieldPanel::message, m_messages, &MessageBar::add);
     m_plugins = std::make_unique<HbGUIManager>(this);
