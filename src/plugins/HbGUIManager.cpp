@@ -96,7 +96,8 @@ void withdrawEditors(void *library)
     for (const QPointer<QWidget> &widget : widgetsOf(library)) {
         if (auto *const editor = dynamic_cast<HbEditors *>(widget.data())) { // one may take others along as it goes
             editor->unregisterEditor();
-            editor->hide();
+            if (widget)
+                widget->hide();
         }
     }
 }
