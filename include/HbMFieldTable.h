@@ -9,13 +9,16 @@
 #include <QBasicTimer>
 #include <QPersistentModelIndex>
 #include <QPointer>
+#include <QSet>
 #include <QTableWidget>
 
-#include <vector>
+#include <memory>
 
+class ColumnWidths;
 class HbFieldEditorCommandManager;
 class HbMFieldTableItemDelegate;
 class HbMFieldWidget;
+class RowSelection;
 
 /**
  * The table of an editor of many values.
@@ -93,18 +96,17 @@ protected:
 
 private:
     void initClass();
+    bool isOpen(const QWidget *editor) const;
     bool isTyping() const;
-    void endMultiSelection();
     void clearTouchedCells();
     void deleteRows(int top, int count);
 
-    bool m_multiSelection = false;
-    bool m_isCommitting = false;
+    std::unique_ptr<RowSelection> m_selection;
+    std::unique_ptr<ColumnWidths> m_widths;
+    QWidget *m_committing = nullptr; ///< the cell editor whose text is being reported
     int m_timesGivenRows = 0;
-    bool m_userWidths = false;
-    bool m_sharingWidth = false;
     QBasicTimer m_followTimer;
-    std::vector<QPersistentModelIndex> m_touched; ///< cells that may hold an item
+    QSet<QPersistentModelIndex> m_touched; ///< cells that hold an item
 };
 
 #endif

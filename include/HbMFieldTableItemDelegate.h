@@ -8,7 +8,10 @@
 
 #include <QHash>
 #include <QItemDelegate>
+#include <QPersistentModelIndex>
 #include <QPointer>
+
+#include <vector>
 
 class HbFieldEditorCommandManager;
 class HbMFieldWidget;
@@ -46,9 +49,11 @@ public:
 
     /// The cells among the visible ones that show another text than the field holds by now.
     void updateChangedCells(QAbstractItemView *view) const;
-    /// The editor that is open in a cell of @p view; null without one.
-    QWidget *openEditor(const QAbstractItemView &view) const;
-    /// Takes the text of the editor that is open.
+    /// The editors that are open in cells of @p view: one, or more where a host has opened some that stay.
+    std::vector<QWidget *> openEditors(const QAbstractItemView &view) const;
+    /// Tells slider editors where they are after rows were added or removed.
+    void renumberEditors() const;
+    /// Takes the text of an editor that is open.
     void commit(QWidget *editor, QAbstractItemModel *model) const;
 
 protected:
@@ -62,6 +67,7 @@ protected:
     QPointer<HbFieldEditorCommandManager> m_commandManager;
 
 private:
+    QWidget *kept(QWidget *editor, const QModelIndex &cell) const;
     QWidget *createSlider(QWidget *parent, int row, const QString &text) const;
 
     int m_cellType = 0;
@@ -71,8 +77,7 @@ private:
     double m_realMin = 0;
     bool m_bounded = false;
     mutable QHash<QPersistentModelIndex, QString> m_shown;
-    mutable QPointer<QWidget> m_editor; ///< the one made last
-    mutable QPersistentModelIndex m_editorCell;
+    mutable QHash<QWidget *, QPersistentModelIndex> m_editorCells; ///< of editors that are not destroyed
 };
 
 #endif

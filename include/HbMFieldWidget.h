@@ -82,6 +82,8 @@ public Q_SLOTS:
 
 public:
     /// The start of getFieldValue(), at least @p limit characters where it has as many. Cells are painted with it.
+    /// Some editors tell the start of a very long text without getFieldValue(): who overrides that for such texts
+    /// overrides this too.
     virtual QString getCellText(int row, int col, int limit) const;
 
 protected:

@@ -54,6 +54,8 @@ public:
     /// Keeps the value as the one from before a drag; empty here.
     virtual void saveDataFromField();
 
+    /// Where the cell is that it edits.
+    void setRow(int row);
     /// Whether the user typed in the edit since its text was last set.
     bool isEdited() const;
     /// Whether moves are reported while the handle is dragged.

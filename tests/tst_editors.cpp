@@ -64,7 +64,6 @@ private Q_SLOTS:
 
     void unmanagedEditorsWrite()
     {
-        Complaints::expect(Complaints::missingDefaultSlot);
         const Ref<SoCone> cone;
         cone->height = 7;
         auto manager = std::make_unique<RecordingManager>();
@@ -104,7 +103,6 @@ private Q_SLOTS:
 
     void safeWithoutAField()
     {
-        Complaints::expect(Complaints::missingDefaultSlot);
         Widget widget(nullptr, nullptr, nullptr, {});
         const auto useAll = [&widget] {
             widget.refresh();

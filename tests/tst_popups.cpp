@@ -50,8 +50,8 @@ template <class Editor> struct Popup {
     }
 
     Editor editor;
-    QPushButton *button = editor.template findChild<QPushButton *>(QStringLiteral("m_editButton"));
-    QFrame *frame = editor.template findChild<QFrame *>(QStringLiteral("m_popupFrame"));
+    QPushButton *button = editor.template findChild<QPushButton *>("m_editButton");
+    QFrame *frame = editor.template findChild<QFrame *>("m_popupFrame");
 };
 
 constexpr auto identity = "1 0 0 0 0 1 0 0 0 0 1 0 0 0 0 1";
@@ -64,11 +64,6 @@ class TestPopups : public QObject
 
 private Q_SLOTS:
     void initTestCase() { Complaints::listen(); }
-    void init()
-    {
-        Complaints::expect(Complaints::missingDefaultSlot);
-        Complaints::expect(Complaints::missingApplySlot);
-    }
     void cleanup() { QCOMPARE(Complaints::take(), QByteArray()); }
 
     void placement()
@@ -132,7 +127,7 @@ private Q_SLOTS:
         grid.setValidator(1); // walks over the gaps
         grid.revertCursorPosition();
         QVERIFY(!grid.edited());
-        grid.findChild<QLineEdit *>(QStringLiteral("lineEdit"))->setModified(true);
+        grid.findChild<QLineEdit *>("lineEdit")->setModified(true);
         QVERIFY(!grid.edited()); // the line is not typed into
         grid.editAt(1, 2)->setModified(true);
         QVERIFY(grid.edited());
@@ -169,7 +164,7 @@ private Q_SLOTS:
     {
         const auto field = makeField("SFBox3s", "1 2 3 4 5 6");
         Popup<HbSFBox3sWidget> popup(field.get());
-        QVERIFY(!popup.editor.findChild<QLineEdit *>(QStringLiteral("lineEdit"))->isEnabled());
+        QVERIFY(!popup.editor.findChild<QLineEdit *>("lineEdit")->isEnabled());
         popup.button->setFocus(Qt::TabFocusReason);
         QVERIFY(popup.button->hasFocus());
         QTest::keyClick(popup.button, Qt::Key_Space);
@@ -178,9 +173,9 @@ private Q_SLOTS:
             QCOMPARE(QApplication::focusWidget(), popup.at(place / 3, place % 3));
             QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
         }
-        retype(popup.at(1, 2), QStringLiteral("60"));
+        retype(popup.at(1, 2), "60");
         QTest::keyClick(popup.at(1, 2), Qt::Key_Return);
-        QCOMPARE(textOf(*field), QStringLiteral("1 2 3 4 5 60"));
+        QCOMPARE(textOf(*field), "1 2 3 4 5 60");
     }
 
     /// Commits a number and drops what is unfinished.
@@ -200,10 +195,10 @@ private Q_SLOTS:
                 else
                     QTest::mouseClick(popup.frame, Qt::LeftButton, {}, QPoint(-5, -5));
                 QVERIFY(!popup.frame->isVisible());
-                QCOMPARE(textOf(*field), QStringLiteral("10 2 3 4 5 6"));
+                QCOMPARE(textOf(*field), "10 2 3 4 5 6");
             }
             popup.button->click();
-            QCOMPARE(popup.at(0, 0)->text(), QStringLiteral("10"));
+            QCOMPARE(popup.at(0, 0)->text(), "10");
         }
     }
 
@@ -244,8 +239,8 @@ private Q_SLOTS:
             editor.setField(&field);
             editor.refresh();
             editor.show();
-            auto *const box = editor.findChild<QLabel *>(QStringLiteral("m_imageBox"));
-            auto *const view = editor.findChild<QLabel *>(QStringLiteral("pixmapLabel"));
+            auto *const box = editor.findChild<QLabel *>("m_imageBox");
+            auto *const view = editor.findChild<QLabel *>("pixmapLabel");
             editor.grab();
             QCOMPARE(view->size(), size.boundedTo(QSize(256, 128)));
             QTest::mouseMove(box, QPoint(3, 3));

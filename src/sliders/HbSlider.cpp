@@ -66,6 +66,11 @@ void HbSlider::setValue(QString) { }
 
 void HbSlider::saveDataFromField() { }
 
+void HbSlider::setRow(int newRow)
+{
+    row = newRow;
+}
+
 bool HbSlider::isEdited() const
 {
     return edit->isModified();

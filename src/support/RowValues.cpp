@@ -175,12 +175,11 @@ QString RowValues::text(SoMField &field, int row)
     return CoinText::toQString(text);
 }
 
-QString RowValues::startOfText(SoMField &field, int row, int limit)
+bool RowValues::isLongString(const SoMField &field, int row)
 {
-    if (!field.isOfType(SoMFString::getClassTypeId()))
-        return text(field, row);
-    const QString start = startOfString(static_cast<const SoMFString &>(field), row, limit);
-    return contains(field, row) ? quoted(start) : start;
+    constexpr std::size_t few = 4096; // bytes
+    return field.isOfType(SoMFString::getClassTypeId()) && contains(field, row)
+        && strnlen(static_cast<const SoMFString &>(field)[row].getString(), few) == few;
 }
 
 QString RowValues::startOfString(const SoMFString &field, int row, int limit)
@@ -194,6 +193,11 @@ QString RowValues::startOfString(const SoMFString &field, int row, int limit)
     for (int longest = 3; isWithinCharacter(bytes) && longest > 0; --longest)
         --bytes;
     return CoinText::toQString(value.getString(), bytes);
+}
+
+QString RowValues::startOfStringText(const SoMFString &field, int row, int limit)
+{
+    return contains(field, row) ? quoted(startOfString(field, row, limit)) : QString();
 }
 
 bool RowValues::setText(SoMField &field, int row, const QString &text)

@@ -27,10 +27,12 @@ void remove(SoMField &field, int row, int count);
 
 /// A value in the field's notation; empty outside the field.
 QString text(SoMField &field, int row);
-/// The start of text(), at least @p limit characters where it has as many; costs no more than that for strings.
-QString startOfText(SoMField &field, int row, int limit);
-/// The same of a string's value, without quotes.
+/// Whether there is a string that is too long to be made a QString for each paint of its cell.
+bool isLongString(const SoMField &field, int row);
+/// The start of a string's value, at least @p limit characters where it has as many; costs no more than that.
 QString startOfString(const SoMFString &field, int row, int limit);
+/// The same of its text().
+QString startOfStringText(const SoMFString &field, int row, int limit);
 /// Parses a value; returns whether the field's parser accepted it.
 bool setText(SoMField &field, int row, const QString &text);
 } // namespace RowValues

@@ -4,6 +4,7 @@
 #include "FieldRows.h"
 
 #include "FieldSnapshot.h"
+#include "OneNotification.h"
 
 #include <Inventor/SoPath.h>
 #include <Inventor/engines/SoEngine.h>
@@ -85,23 +86,6 @@ std::shared_ptr<SoMField> newField(const SoMField &like)
 {
     return std::shared_ptr<SoMField>(static_cast<SoMField *>(like.getTypeId().createInstance()));
 }
-
-/// Silent while it lives; at its end the field notifies once.
-class OneNotification
-{
-public:
-    explicit OneNotification(SoMField &field) : m_field(field), m_wasEnabled(field.enableNotify(FALSE)) { }
-    ~OneNotification()
-    {
-        m_field.enableNotify(m_wasEnabled);
-        m_field.setDefault(FALSE);
-        m_field.touch();
-    }
-
-private:
-    SoMField &m_field;
-    SbBool m_wasEnabled;
-};
 } // namespace
 
 std::shared_ptr<SoMField> FieldRows::copy(const SoMField &field, int row, int count)

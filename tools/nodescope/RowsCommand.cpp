@@ -6,6 +6,7 @@
 #include "CoinRef.h"
 #include "FieldRows.h"
 #include "FieldText.h"
+#include "OneNotification.h"
 
 #include <QCoreApplication>
 
@@ -33,8 +34,11 @@ RowsCommand::RowsCommand(SoMField &field, std::vector<RowsChange> changes, bool 
 
 void RowsCommand::undo()
 {
-    for (auto change = m_changes.rbegin(); change != m_changes.rend(); ++change)
-        FieldRows::replace(m_field, change->row, change->after->getNum(), *change->before);
+    {
+        const OneNotification once(m_field);
+        for (auto change = m_changes.rbegin(); change != m_changes.rend(); ++change)
+            FieldRows::replace(m_field, change->row, change->after->getNum(), *change->before);
+    }
     m_field.setDefault(m_wasDefault);
 }
 
@@ -42,6 +46,7 @@ void RowsCommand::redo()
 {
     if (std::exchange(m_done, false))
         return;
+    const OneNotification once(m_field);
     for (const RowsChange &change : m_changes)
         FieldRows::replace(m_field, change.row, change.before->getNum(), *change.after);
 }
@@ -63,13 +68,14 @@ void RowsCommand::describe()
     const RowsChange &change = m_changes[0];
     const int removed = change.before->getNum();
     const int added = change.after->getNum();
+    const int label = change.row + 1; // as the table has it
     if (m_changes.size() > 1 || (removed == 2 && added == 2))
         setText(translated("%1: move a row").arg(name));
     else if (removed == 0)
-        setText(added == 1 ? translated("%1: add row %2").arg(name).arg(change.row)
+        setText(added == 1 ? translated("%1: add row %2").arg(name).arg(label)
                            : translated("%1: add %2 rows").arg(name).arg(added));
     else if (added == 0)
-        setText(removed == 1 ? translated("%1: delete row %2").arg(name).arg(change.row)
+        setText(removed == 1 ? translated("%1: delete row %2").arg(name).arg(label)
                              : translated("%1: delete %2 rows").arg(name).arg(removed));
     else
         setText(QStringLiteral("%1[%2]: %3 %4 %5")

@@ -3,28 +3,24 @@
 
 #include "TableManager.h"
 
-#include "CellText.h"
 #include "FieldCommand.h"
 #include "FieldRows.h"
 #include "FieldText.h"
+#include "MatrixRows.h"
+#include "OneNotification.h"
 #include "WriteWatch.h"
 
-#include <HbMFColorTable.h>
 #include <HbMFieldTable.h>
 #include <HbMFieldWidget.h>
-#include <HbSlider.h>
 #include <HbTablePopupWidget.h>
 
-#include <QClipboard>
-#include <QGuiApplication>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QSlider>
 #include <QUndoStack>
 
 #include <Inventor/SbString.h>
-#include <Inventor/fields/SoMFName.h>
-#include <Inventor/fields/SoMFString.h>
+#include <Inventor/fields/SoMField.h>
 
 #include <algorithm>
 
@@ -38,7 +34,17 @@ void TableManager::setEditor(HbFieldEditors *editor)
         if (!isDragging())
             remember();
     });
+    m_clipboard.emplace(*m_widget, *m_table);
+    m_table->horizontalHeader()->setHidden(m_table->columnCount() == 1); // it would say "1"
     m_table->installEventFilter(this);
+    auto *const popup = dynamic_cast<HbTablePopupWidget *>(editor);
+    if (!popup) {
+        m_supply.emplace(*m_widget, *m_table);
+    } else {
+        m_keyboard = popup; // its table is disabled
+        popup->installEventFilter(this);
+        new MatrixRows(*popup, *m_table, *this);
+    }
     m_table->viewport()->installEventFilter(this);
 }
 
@@ -65,7 +71,8 @@ void TableManager::showSomeRows()
 {
     constexpr int mostRows = 8;
     const int rowHeight = m_table->verticalHeader()->defaultSectionSize();
-    const int height = m_table->horizontalHeader()->sizeHint().height() + 2 * m_table->frameWidth()
+    const bool hasLabels = !m_table->horizontalHeader()->isHidden();
+    const int height = (hasLabels ? m_table->horizontalHeader()->sizeHint().height() : 0) + 2 * m_table->frameWidth()
         + qBound(1, m_table->rowCount(), mostRows) * rowHeight;
     if (m_table->minimumHeight() == height && m_table->maximumHeight() == height)
         return;
@@ -171,8 +178,11 @@ void TableManager::mfieldSwapRows(int first, int second)
     const bool wasDefault = rows()->isDefault();
     const auto firstValue = FieldRows::copy(*rows(), first, 1);
     const auto secondValue = FieldRows::copy(*rows(), second, 1);
-    FieldRows::replace(*rows(), first, 1, *secondValue);
-    FieldRows::replace(*rows(), second, 1, *firstValue);
+    {
+        const OneNotification once(*rows());
+        FieldRows::replace(*rows(), first, 1, *secondValue);
+        FieldRows::replace(*rows(), second, 1, *firstValue);
+    }
     record({{first, firstValue, secondValue}, {second, secondValue, firstValue}}, wasDefault, FieldCommand::noSeries);
     refresh();
 }
@@ -230,89 +240,24 @@ bool TableManager::isDragging() const
     return std::any_of(sliders.begin(), sliders.end(), [](const QSlider *slider) { return slider->isSliderDown(); });
 }
 
-/// The table's cells hold no text, so that an editor would open empty: the current one gets what it shows.
 void TableManager::supplyText()
 {
-    const QModelIndex cell = m_table->currentIndex();
-    const auto *const editor = m_table->viewport()->findChild<QWidget *>(QString(), Qt::FindDirectChildrenOnly);
-    const auto *const slider = qobject_cast<const HbSlider *>(editor);
-    const bool isEditing = slider ? slider->isEdited() || isDragging() : editor != nullptr; // a slider follows
-    if (!cell.isValid() || isEditing || dynamic_cast<HbTablePopupWidget *>(m_widget))
-        return;
-    const QString text = m_widget->getFieldValue(cell.row(), componentOf(cell.column()));
-    if (cell.data(Qt::EditRole).toString() != text)
-        m_table->model()->setData(cell, text, Qt::EditRole);
+    if (m_supply)
+        m_supply->supply();
 }
 
-/// A table of colours begins with their swatches.
-int TableManager::componentOf(int column) const
+void TableManager::paste()
 {
-    return qobject_cast<HbMFColorTable *>(m_table) ? column - 1 : column;
-}
-
-void TableManager::copyCells() const
-{
-    const QList<QTableWidgetSelectionRange> ranges = m_table->selectedRanges();
-    const QModelIndex current = m_table->currentIndex();
-    if (ranges.isEmpty() && !current.isValid())
-        return;
-    const bool isSelected = !ranges.isEmpty();
-    const int top = isSelected ? ranges.first().topRow() : current.row();
-    const int bottom = isSelected ? ranges.first().bottomRow() : current.row();
-    const int left = isSelected ? ranges.first().leftColumn() : current.column();
-    const int right = isSelected ? ranges.first().rightColumn() : current.column();
-    QVector<QStringList> cells;
-    for (int row = top; row <= bottom; ++row) {
-        cells.append(QStringList());
-        for (int column = left; column <= right; ++column)
-            if (componentOf(column) >= 0)
-                cells.last() += m_widget->getFieldValue(row, componentOf(column));
-    }
-    QGuiApplication::clipboard()->setText(CellText::join(cells));
-}
-
-/// Whether a cell takes this text; what is no number would count as 0 there.
-bool TableManager::accepts(int row, int column, const QString &text) const
-{
-    if (rows()->isOfType(SoMFString::getClassTypeId()) || rows()->isOfType(SoMFName::getClassTypeId()))
-        return true;
-    bool wasNumber = false;
-    bool isNumber = false;
-    bool isInteger = false;
-    m_widget->getFieldValue(row, column).toDouble(&wasNumber);
-    text.toDouble(&isNumber);
-    text.toLongLong(&isInteger, 0);
-    return isNumber || isInteger || !wasNumber;
-}
-
-/// One step and one notification for all cells.
-void TableManager::pasteCells()
-{
-    const QVector<QStringList> cells = CellText::split(QGuiApplication::clipboard()->text());
-    if (cells.isEmpty() || dynamic_cast<HbTablePopupWidget *>(m_widget) || !mayEdit(nullptr))
+    if (!mayEdit(nullptr))
         return;
     const OwnEdit own;
-    const int top = qBound(0, m_table->currentRow(), rows()->getNum());
-    const int left = qMax(componentOf(m_table->currentColumn()), 0);
-    const int count = static_cast<int>(cells.size());
     const bool wasDefault = rows()->isDefault();
-    const auto before = FieldRows::copy(*rows(), top, count);
-    const SbBool wasNotifying = rows()->enableNotify(FALSE);
-    if (const int missing = count - before->getNum(); missing > 0)
-        FieldRows::replace(*rows(), rows()->getNum(), 0, *FieldRows::zeros(*rows(), missing));
-    for (int line = 0; line < count; ++line)
-        for (int i = 0; i < cells[line].size(); ++i)
-            if (accepts(top + line, left + i, cells[line][i]))
-                m_widget->set1Value(top + line, left + i, cells[line][i]);
-    rows()->enableNotify(wasNotifying);
-    const auto after = FieldRows::copy(*rows(), top, count);
-    if (FieldRows::areSame(*before, *after)) {
-        rows()->setDefault(wasDefault);
-    } else {
-        rows()->touch();
-        record({{top, before, after}}, wasDefault, FieldCommand::noSeries);
-    }
+    const CellClipboard::Pasted pasted = m_clipboard->paste();
+    if (pasted.isChange)
+        record({pasted.change}, wasDefault, FieldCommand::noSeries);
     refresh();
+    if (!pasted.isAllAccepted)
+        Q_EMIT message(tr("%1 does not accept all that was pasted.").arg(FieldText::qualifiedName(*rows())));
 }
 
 bool TableManager::eventFilter(QObject *watched, QEvent *event)
@@ -322,18 +267,17 @@ bool TableManager::eventFilter(QObject *watched, QEvent *event)
             QMetaObject::invokeMethod(this, &TableManager::cellEditorsChanged, Qt::QueuedConnection);
         return false;
     }
-    if (watched != m_table)
+    if (watched != m_table && watched != m_keyboard)
         return EditManager::eventFilter(watched, event);
     const bool isKey = event->type() == QEvent::KeyPress || event->type() == QEvent::ShortcutOverride;
     if (!isKey)
         return false;
     auto *const key = static_cast<QKeyEvent *>(event);
-    const bool isCopy = key->key() == Qt::Key_C && key->modifiers() & Qt::ControlModifier; // Shift selects
-    const bool isPaste = key->matches(QKeySequence::Paste);
-    if (!isCopy && !isPaste)
+    const bool isCopy = CellClipboard::isCopy(*key);
+    if (!isCopy && !CellClipboard::isPaste(*key))
         return false;
     key->accept();
     if (event->type() == QEvent::KeyPress)
-        isCopy ? copyCells() : pasteCells();
+        isCopy ? m_clipboard->copy() : paste();
     return true;
 }

@@ -4,8 +4,12 @@
 #ifndef TABLEMANAGER_H
 #define TABLEMANAGER_H
 
+#include "CellClipboard.h"
+#include "CellSupply.h"
 #include "EditManager.h"
 #include "RowsCommand.h"
+
+#include <optional>
 
 class HbMFieldTable;
 class HbMFieldWidget;
@@ -14,8 +18,7 @@ class SoMField;
 /**
  * Turns the edits of an editor of many values into undo steps, which hold what changed and not the whole field.
  *
- * It also lets cells be edited from the value that they show, and copies and pastes them as text: cells between tabs,
- * rows on lines, as spreadsheets have it.
+ * It also lets cells be edited from the value that they show, and copied and pasted as text.
  */
 class TableManager : public EditManager
 {
@@ -52,13 +55,13 @@ private:
     bool isDragging() const;
     void supplyText();
 
-    int componentOf(int column) const;
-    void copyCells() const;
-    void pasteCells();
-    bool accepts(int row, int column, const QString &text) const;
+    void paste();
 
     HbMFieldWidget *m_widget = nullptr;
     HbMFieldTable *m_table = nullptr;
+    QObject *m_keyboard = nullptr; ///< what has the focus in the table's place
+    std::optional<CellClipboard> m_clipboard;
+    std::optional<CellSupply> m_supply;
     RowsChange m_rowBefore{-1, {}, {}}; ///< the current row before a slider in it moves
     bool m_wasDefault = false; ///< then
     int m_rowSeries = 0;

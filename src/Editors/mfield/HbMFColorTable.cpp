@@ -15,7 +15,8 @@ HbMFColorTable::HbMFColorTable(HbFieldEditorCommandManager *commandManager, HbMF
     replaceDelegate(new HbMFColorTableItemDelegate(commandManager, owner, this));
     setCellType(RealCell);
     setDoubleEditorRange(0, 1);
-    connect(this, &QTableWidget::cellClicked, this, &HbMFColorTable::getColorFromEditor);
+    // after the click: Qt goes on with the table, which the host may delete while the dialog is open
+    connect(this, &QTableWidget::cellClicked, this, &HbMFColorTable::getColorFromEditor, Qt::QueuedConnection);
 }
 
 HbMFColorTable::~HbMFColorTable() = default;

@@ -40,8 +40,12 @@ void HbMFColorTableItemDelegate::paint(QPainter *painter, const QStyleOptionView
     HbMFieldTableItemDelegate::paint(painter, option, index);
     if (index.column() != 0)
         return;
+    const QColor swatch(textToShow(index, 0));
     painter->save();
-    painter->fillRect(option.rect, QColor(textToShow(index, 0)));
+    painter->fillRect(option.rect, swatch);
+    painter->setPen(qGray(swatch.rgb()) < 128 ? Qt::white : Qt::black);
+    if (option.state & (QStyle::State_HasFocus | QStyle::State_Selected))
+        painter->drawRect(option.rect.adjusted(0, 0, -1, -1));
     painter->restore();
 }
 

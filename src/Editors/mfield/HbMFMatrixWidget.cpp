@@ -55,9 +55,10 @@ QString HbMFMatrixWidget::getCellText(int row, int col, int limit) const
     auto *const matrices = fieldAs<SoMFMatrix>();
     if (!matrices || !RowValues::contains(*matrices, row) || col != 0)
         return {};
+    constexpr int few = 64; // whose text is made at once
     constexpr int shortest = 2 * elements; // a matrix of digits
-    const int start = qMin(matrices->getNum(), limit / shortest + 2); // two at least: a list is in brackets
-    if (start == matrices->getNum())
+    const int start = qMax(few, limit / shortest + 2); // two at least: a list is in brackets
+    if (matrices->getNum() <= start)
         return getFieldValue(row, col);
     return m_text->text(*matrices, -1 - start, [&] {
         SoMFMatrix first;

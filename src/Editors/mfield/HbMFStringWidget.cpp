@@ -9,8 +9,6 @@
 
 #include <Inventor/fields/SoMFString.h>
 
-#include <limits>
-
 HbMFStringWidget::HbMFStringWidget(const char *fieldType, HbFieldEditorCommandManager *commandManager, QWidget *parent,
                                    const char *name, Qt::WindowFlags flags)
     : HbMFieldWidget(fieldType, commandManager, parent, name ? name : "HbMFStringWidget", flags)
@@ -40,16 +38,21 @@ bool HbMFStringWidget::checkField(SoField *field)
 
 QString HbMFStringWidget::getFieldValue(int row, int col) const
 {
-    return getCellText(row, col, std::numeric_limits<int>::max() / 4);
-}
-
-QString HbMFStringWidget::getCellText(int row, int col, int limit) const
-{
     SoMField *const field = editedField();
     if (!field || col != 0)
         return {};
     const auto *const strings = fieldAs<SoMFString>();
-    return strings ? RowValues::startOfString(*strings, row, limit) : RowValues::startOfText(*field, row, limit);
+    if (!strings || !RowValues::contains(*strings, row))
+        return RowValues::text(*field, row);
+    return CoinText::toQString((*strings)[row]);
+}
+
+QString HbMFStringWidget::getCellText(int row, int col, int limit) const
+{
+    const auto *const strings = fieldAs<SoMFString>();
+    return strings && col == 0 && RowValues::isLongString(*strings, row)
+        ? RowValues::startOfString(*strings, row, limit)
+        : getFieldValue(row, col);
 }
 
 void HbMFStringWidget::set1Value(int row, int col, QString text)

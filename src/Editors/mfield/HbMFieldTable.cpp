@@ -3,24 +3,22 @@
 
 #include <HbMFieldTable.h>
 
+#include "ColumnWidths.h"
+#include "RowSelection.h"
 #include "support/RowValues.h"
 
 #include <HbFieldEditorCommandManager.h>
 #include <HbMFieldTableItemDelegate.h>
 #include <HbMFieldWidget.h>
-#include <HbSlider.h>
 
-#include <QApplication>
-#include <QHeaderView>
 #include <QKeyEvent>
-#include <QLineEdit>
-#include <QScopedValueRollback>
 #include <QSpinBox>
 
 #include <Inventor/fields/SoMField.h>
 
 HbMFieldTable::HbMFieldTable(HbFieldEditorCommandManager *commandManager, HbMFieldWidget *owner, const char *name)
-    : QTableWidget(owner), m_owner(owner), m_commandManager(commandManager)
+    : QTableWidget(owner), m_owner(owner), m_commandManager(commandManager),
+      m_selection(std::make_unique<RowSelection>(*this)), m_widths(std::make_unique<ColumnWidths>(*this))
 {
     setObjectName(name ? QString::fromUtf8(name) : QStringLiteral("HbMFieldTable"));
     initClass();
@@ -28,8 +26,9 @@ HbMFieldTable::HbMFieldTable(HbFieldEditorCommandManager *commandManager, HbMFie
 
 HbMFieldTable::~HbMFieldTable()
 {
+    model()->disconnect(this); // it dies later than our members
     m_delegate->setParent(nullptr);
-    if (m_isCommitting)
+    if (m_committing)
         m_delegate->deleteLater(); // it is what called us
     else
         delete m_delegate;
@@ -39,14 +38,17 @@ void HbMFieldTable::initClass()
 {
     m_delegate = new HbMFieldTableItemDelegate(m_commandManager, m_owner, this);
     setItemDelegate(m_delegate);
-    setSelectionMode(QAbstractItemView::NoSelection);
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setCurrentCell(0, 0);
-    connect(horizontalHeader(), &QHeaderView::sectionResized, this,
-            [this] { m_userWidths |= isVisible() && !m_sharingWidth; });
-    connect(model(), &QAbstractItemModel::dataChanged, this,
-            [this](const QModelIndex &cell) { m_touched.emplace_back(cell); });
+    connect(model(), &QAbstractItemModel::dataChanged, this, [this](const QModelIndex &cell) {
+        if (itemFromIndex(cell))
+            m_touched.insert(cell);
+        else
+            m_touched.remove(cell);
+    });
+    connect(model(), &QAbstractItemModel::rowsInserted, this, [this] { m_delegate->renumberEditors(); });
+    connect(model(), &QAbstractItemModel::rowsRemoved, this, [this] { m_delegate->renumberEditors(); });
 }
 
 void HbMFieldTable::replaceDelegate(HbMFieldTableItemDelegate *delegate)
@@ -86,58 +88,12 @@ void HbMFieldTable::setNumRows(int row)
     setRowCount(row);
 }
 
-/// What was typed in a row belongs to that row, not to the one that moves there. False if the host deletes the table
-/// in answer.
-bool HbMFieldTable::finishEditing()
-{
-    const QPointer<QWidget> editor = m_delegate->openEditor(*this);
-    if (!editor)
-        return true;
-    const QPointer<HbMFieldTable> self(this);
-    if (auto *const slider = qobject_cast<HbSlider *>(editor))
-        slider->changeValueFromEdit();
-    else
-        commitData(editor);
-    if (self && editor)
-        closeEditor(editor, QAbstractItemDelegate::NoHint);
-    return self;
-}
-
-/// As Qt does, which would go on with a view that the host deletes in answer. It may also speak of an editor whose row
-/// went while it was committed.
-void HbMFieldTable::commitData(QWidget *editor)
-{
-    if (m_isCommitting || !editor || m_delegate->openEditor(*this) != editor)
-        return;
-    const QPointer<HbMFieldTable> self(this);
-    const QPointer<QWidget> alive(editor);
-    m_isCommitting = true;
-    editor->removeEventFilter(m_delegate); // so that losing the focus does not commit again
-    m_delegate->commit(editor, model());
-    if (!self)
-        return;
-    m_isCommitting = false;
-    if (alive)
-        editor->installEventFilter(m_delegate);
-}
-
-void HbMFieldTable::closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditHint hint)
-{
-    if (!m_delegate->openEditor(*this))
-        return;
-    auto *const slider = qobject_cast<HbSlider *>(editor);
-    if (slider && hint == QAbstractItemDelegate::RevertModelCache)
-        slider->findChild<QLineEdit *>()->setModified(false); // it reports when the focus goes
-    QTableWidget::closeEditor(editor, hint);
-}
-
 /// As clearContents(), which looks at every cell and makes the view forget where it was.
 void HbMFieldTable::clearTouchedCells()
 {
     for (const QPersistentModelIndex &cell : std::exchange(m_touched, {}))
         if (cell.isValid())
             delete takeItem(cell.row(), cell.column());
-    m_touched.clear();
 }
 
 void HbMFieldTable::addRow()
@@ -166,14 +122,12 @@ void HbMFieldTable::deleteRow()
 {
     if (!finishEditing() || rowCount() == 0)
         return;
-    if (!m_multiSelection) {
+    if (!m_selection->isOn()) {
         if (currentRow() >= 0)
             deleteRows(currentRow(), 1);
-        return;
+    } else if (const auto rows = m_selection->first()) {
+        deleteRows(rows->top, rows->count);
     }
-    const QList<QTableWidgetSelectionRange> ranges = selectedRanges();
-    if (!ranges.isEmpty())
-        deleteRows(ranges.first().topRow(), ranges.first().rowCount());
 }
 
 void HbMFieldTable::deleteRows(int top, int count)
@@ -232,25 +186,6 @@ void HbMFieldTable::showTableRow(int row)
         scrollTo(model()->index(row, 0), QAbstractItemView::EnsureVisible);
 }
 
-void HbMFieldTable::editorDestroyed(QObject *editor)
-{
-    if (!editor)
-        return;
-    if (const auto *const slider = qobject_cast<HbSlider *>(editor)) {
-        const auto *const edit = slider->findChild<QLineEdit *>();
-        if (edit && (edit->hasFocus() || edit->rect().contains(edit->mapFromGlobal(QCursor::pos()))))
-            return;
-    }
-    QTableWidget::editorDestroyed(editor);
-}
-
-/// Whether the keyboard is in a cell editor: its keys are its own, also those that it does not use.
-bool HbMFieldTable::isTyping() const
-{
-    const QWidget *const focused = QApplication::focusWidget();
-    return focused && focused != this && focused != viewport() && isAncestorOf(focused);
-}
-
 void HbMFieldTable::keyPressEvent(QKeyEvent *event)
 {
     const bool typing = isTyping();
@@ -265,10 +200,8 @@ void HbMFieldTable::keyPressEvent(QKeyEvent *event)
             deleteRow();
         break;
     case Qt::Key_Shift:
-        if (!typing) {
-            setSelectionMode(QAbstractItemView::ContiguousSelection);
-            m_multiSelection = true;
-        }
+        if (!typing)
+            m_selection->begin();
         break;
     default:
         QTableWidget::keyPressEvent(event);
@@ -279,38 +212,23 @@ void HbMFieldTable::keyPressEvent(QKeyEvent *event)
 void HbMFieldTable::keyReleaseEvent(QKeyEvent *event)
 {
     if (event->key() == Qt::Key_Shift)
-        endMultiSelection();
+        m_selection->end();
     else
         QTableWidget::keyReleaseEvent(event);
     event->accept();
 }
 
-void HbMFieldTable::endMultiSelection()
-{
-    clearSelection(); // else a later Delete would remove rows that nobody sees selected
-    setSelectionMode(QAbstractItemView::NoSelection);
-    m_multiSelection = false;
-}
-
 void HbMFieldTable::focusOutEvent(QFocusEvent *event)
 {
-    if (m_multiSelection)
-        endMultiSelection(); // Shift may be released elsewhere
+    if (m_selection->isOn())
+        m_selection->end(); // Shift may be released elsewhere
     QTableWidget::focusOutEvent(event);
 }
 
-/// Shares the width among the columns, as there is no scrolling sideways, until the user sets one.
 void HbMFieldTable::resizeEvent(QResizeEvent *event)
 {
     QTableWidget::resizeEvent(event);
-    if (m_userWidths)
-        return;
-    const QScopedValueRollback<bool> own(m_sharingWidth, true);
-    for (int col = 0, left = viewport()->width(); col < columnCount(); ++col) {
-        const int width = left / (columnCount() - col);
-        setColumnWidth(col, width);
-        left -= width;
-    }
+    m_widths->share();
 }
 
 void HbMFieldTable::showEvent(QShowEvent *event)

@@ -63,19 +63,27 @@ void HbMFieldTableItemDelegate::paint(QPainter *painter, const QStyleOptionViewI
 {
     const QString text = textToShow(index, TextElision::mostThatFit(option.rect.width()) + 1);
     m_shown.insert(index, text);
-    paintText(painter, option, text);
+    const auto *const view = qobject_cast<const QAbstractItemView *>(option.widget);
+    QStyleOptionViewItem cell = option;
+    if (view && !view->isEnabled() && view->currentIndex() == index)
+        cell.state |= QStyle::State_HasFocus; // its rows can be chosen all the same
+    paintText(painter, cell, text);
 }
 
 /// A focused table is all in the highlight colour, deliberately; a frame tells its current and its selected cells.
+/// A disabled one is there to be read, too.
 void HbMFieldTableItemDelegate::paintText(QPainter *painter, const QStyleOptionViewItem &option,
                                           const QString &text) const
 {
     painter->save();
-    const bool active = option.state & QStyle::State_Active;
-    if (active)
-        painter->fillRect(option.rect, option.palette.brush(QPalette::Highlight));
+    const bool isActive = option.state & QStyle::State_Active;
+    const bool isDisabled = !isActive && !(option.state & QStyle::State_Enabled);
+    const bool isHighlighted = isActive || (isDisabled && option.state & QStyle::State_Selected);
+    const QPalette::ColorGroup group = isDisabled ? QPalette::Inactive : option.palette.currentColorGroup();
+    if (isHighlighted)
+        painter->fillRect(option.rect, option.palette.brush(group, QPalette::Highlight));
     painter->setFont(option.font);
-    painter->setPen(option.palette.color(active ? QPalette::HighlightedText : QPalette::Text));
+    painter->setPen(option.palette.color(group, isHighlighted ? QPalette::HighlightedText : QPalette::Text));
     painter->drawText(option.rect, m_owner->getTextFlags(),
                       TextElision::elided(text, option.rect.width() - textMargin, QFontMetrics(option.font)));
     if (option.state & (QStyle::State_HasFocus | QStyle::State_Selected))
@@ -99,15 +107,32 @@ void HbMFieldTableItemDelegate::updateChangedCells(QAbstractItemView *view) cons
     }
 }
 
-QWidget *HbMFieldTableItemDelegate::openEditor(const QAbstractItemView &view) const
+std::vector<QWidget *> HbMFieldTableItemDelegate::openEditors(const QAbstractItemView &view) const
 {
-    // one that was closed lives on until the next turn of the event loop
-    return m_editor && view.indexWidget(m_editorCell) == m_editor ? m_editor.data() : nullptr;
+    std::vector<QWidget *> open;
+    for (auto editor = m_editorCells.begin(); editor != m_editorCells.end(); ++editor)
+        if (view.indexWidget(editor.value()) == editor.key()) // one that was closed lives on for a while
+            open.push_back(editor.key());
+    return open;
+}
+
+void HbMFieldTableItemDelegate::renumberEditors() const
+{
+    for (auto editor = m_editorCells.begin(); editor != m_editorCells.end(); ++editor)
+        if (auto *const slider = qobject_cast<HbSlider *>(editor.key()))
+            slider->setRow(editor.value().row());
 }
 
 void HbMFieldTableItemDelegate::commit(QWidget *editor, QAbstractItemModel *model) const
 {
-    setModelData(editor, model, QModelIndex(m_editorCell));
+    setModelData(editor, model, QModelIndex(m_editorCells.value(editor)));
+}
+
+QWidget *HbMFieldTableItemDelegate::kept(QWidget *editor, const QModelIndex &cell) const
+{
+    m_editorCells.insert(editor, cell);
+    connect(editor, &QObject::destroyed, this, [this, editor] { m_editorCells.remove(editor); });
+    return editor;
 }
 
 QWidget *HbMFieldTableItemDelegate::createSlider(QWidget *parent, int row, const QString &text) const
@@ -149,12 +174,11 @@ QWidget *HbMFieldTableItemDelegate::createEditor(QWidget *parent, const QStyleOp
                                                  const QModelIndex &index) const
 {
     const QString text = index.data(Qt::EditRole).toString();
-    m_editorCell = index;
     if (index.column() == 0 && index.model()->columnCount() == 1) {
         if (QWidget *const slider = createSlider(parent, index.row(), text)) {
             slider->setAutoFillBackground(true);
             slider->setFocusProxy(slider->findChild<QLineEdit *>()); // where the key goes that opened the editor
-            return m_editor = slider;
+            return kept(slider, index);
         }
     }
     auto *const edit = new QLineEdit(parent);
@@ -164,7 +188,7 @@ QWidget *HbMFieldTableItemDelegate::createEditor(QWidget *parent, const QStyleOp
     setValidator(edit);
     edit->setText(text);
     edit->setFocusPolicy(Qt::StrongFocus);
-    return m_editor = edit;
+    return kept(edit, index);
 }
 
 void HbMFieldTableItemDelegate::setEditorData(QWidget *editor, const QModelIndex &index) const

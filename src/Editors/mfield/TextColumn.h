@@ -30,14 +30,14 @@ inline QString value(SoMField *field, int row, int col)
     return field && col == 0 ? RowValues::text(*field, row) : QString();
 }
 
-/// What a cell shows: of a string no more than fits, else what @p widget tells.
+/// What a cell shows: of a long string no more than fits, else what @p widget tells.
 inline QString cellText(const HbMFieldWidget &widget, RowTextCache &texts, int row, int col, int limit)
 {
     SoMField *const field = widget.editedField();
     if (!field || col != 0)
         return {};
-    if (field->isOfType(SoMFString::getClassTypeId()))
-        return RowValues::startOfText(*field, row, limit);
+    if (RowValues::isLongString(*field, row))
+        return RowValues::startOfStringText(static_cast<const SoMFString &>(*field), row, limit);
     return texts.text(*field, row, [&] { return widget.getFieldValue(row, col); });
 }
 

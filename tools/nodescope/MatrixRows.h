@@ -1,0 +1,40 @@
+// SPDX-FileCopyrightText: 2026 The HarborAPI authors
+// SPDX-License-Identifier: BSD-3-Clause
+
+#ifndef MATRIXROWS_H
+#define MATRIXROWS_H
+
+#include <QObject>
+
+class HbFieldEditorCommandManager;
+class HbMFieldTable;
+class HbTablePopupWidget;
+class QKeyEvent;
+
+/**
+ * The keys that other tables know by themselves, for a table of matrices: that one is disabled, and its editor has the
+ * keyboard. "+" adds a row, "-" and Delete remove rows, rows are selected while Shift is held, F2 and Return open the
+ * grid.
+ */
+class MatrixRows : public QObject
+{
+public:
+    /// Belongs to the editor.
+    MatrixRows(HbTablePopupWidget &editor, HbMFieldTable &table, HbFieldEditorCommandManager &manager);
+
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    bool press(const QKeyEvent &key);
+    bool extendTo(int row);
+    void removeRows();
+    void openGrid();
+    void endSelection();
+
+    HbTablePopupWidget &m_editor;
+    HbMFieldTable &m_table;
+    HbFieldEditorCommandManager &m_manager;
+    int m_anchor = -1; ///< where the selection began; -1 without one
+};
+
+#endif
