@@ -12,7 +12,7 @@
 #include <QMouseEvent>
 
 MatrixRows::MatrixRows(HbTablePopupWidget &editor, HbMFieldTable &table, HbFieldEditorCommandManager &manager)
-    : QObject(&editor), m_editor(editor), m_table(table), m_manager(manager)
+    : QObject(&editor), m_editor(editor), m_table(&table), m_manager(manager)
 {
     editor.setFocusPolicy(Qt::StrongFocus);
     editor.installEventFilter(this);
@@ -21,32 +21,34 @@ MatrixRows::MatrixRows(HbTablePopupWidget &editor, HbMFieldTable &table, HbField
 
 bool MatrixRows::extendTo(int row)
 {
-    if (row < 0 || row >= m_table.rowCount() || m_table.currentRow() < 0)
+    if (row < 0 || row >= m_table->rowCount() || m_table->currentRow() < 0)
         return true;
     if (m_anchor < 0)
-        m_anchor = m_table.currentRow();
-    m_table.setSelectionMode(QAbstractItemView::ContiguousSelection);
-    m_table.setCurrentCell(row, 0, QItemSelectionModel::NoUpdate);
-    m_table.clearSelection();
-    m_table.setRangeSelected({qMin(m_anchor, row), 0, qMax(m_anchor, row), 0}, true);
+        m_anchor = m_table->currentRow();
+    m_table->setSelectionMode(QAbstractItemView::ContiguousSelection);
+    m_table->setCurrentCell(row, 0, QItemSelectionModel::NoUpdate);
+    m_table->clearSelection();
+    m_table->setRangeSelected({qMin(m_anchor, row), 0, qMax(m_anchor, row), 0}, true);
     return true;
 }
 
 void MatrixRows::endSelection()
 {
     m_anchor = -1;
-    m_table.clearSelection();
-    m_table.setSelectionMode(QAbstractItemView::NoSelection);
+    if (!m_table) // it dies before its editor
+        return;
+    m_table->clearSelection();
+    m_table->setSelectionMode(QAbstractItemView::NoSelection);
 }
 
 void MatrixRows::removeRows()
 {
     const int anchor = m_anchor;
     if (anchor < 0) {
-        m_table.deleteRow();
+        m_table->deleteRow();
         return;
     }
-    const int current = m_table.currentRow();
+    const int current = m_table->currentRow();
     endSelection();
     m_manager.mfieldDeleteRows(qMin(anchor, current), qAbs(anchor - current) + 1);
 }
@@ -68,11 +70,11 @@ bool MatrixRows::press(const QKeyEvent &key)
     const bool isShifted = key.modifiers() & Qt::ShiftModifier;
     switch (key.key()) {
     case Qt::Key_Up:
-        return isShifted && extendTo(m_table.currentRow() - 1);
+        return isShifted && extendTo(m_table->currentRow() - 1);
     case Qt::Key_Down:
-        return isShifted && extendTo(m_table.currentRow() + 1);
+        return isShifted && extendTo(m_table->currentRow() + 1);
     case Qt::Key_Plus:
-        m_table.addRow();
+        m_table->addRow();
         return true;
     case Qt::Key_Minus:
     case Qt::Key_Delete:
@@ -88,15 +90,18 @@ bool MatrixRows::press(const QKeyEvent &key)
     }
 }
 
+bool MatrixRows::click(const QMouseEvent &press)
+{
+    if (!(press.modifiers() & Qt::ShiftModifier))
+        return false;
+    m_editor.setFocus(Qt::MouseFocusReason);
+    return extendTo(m_table->rowAt(press.pos().y()));
+}
+
 bool MatrixRows::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched == m_table.viewport()) {
-        const auto *const click = static_cast<QMouseEvent *>(event);
-        if (event->type() != QEvent::MouseButtonPress || !(click->modifiers() & Qt::ShiftModifier))
-            return false;
-        m_editor.setFocus(Qt::MouseFocusReason);
-        return extendTo(m_table.rowAt(click->pos().y()));
-    }
+    if (watched != &m_editor)
+        return event->type() == QEvent::MouseButtonPress && click(*static_cast<QMouseEvent *>(event));
     if (event->type() == QEvent::KeyPress)
         return press(*static_cast<QKeyEvent *>(event));
     const bool isRelease

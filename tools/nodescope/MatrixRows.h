@@ -4,12 +4,15 @@
 #ifndef MATRIXROWS_H
 #define MATRIXROWS_H
 
+#include <HbMFieldTable.h>
+
 #include <QObject>
+#include <QPointer>
 
 class HbFieldEditorCommandManager;
-class HbMFieldTable;
 class HbTablePopupWidget;
 class QKeyEvent;
+class QMouseEvent;
 
 /**
  * The keys that other tables know by themselves, for a table of matrices: that one is disabled, and its editor has the
@@ -26,13 +29,14 @@ public:
 
 private:
     bool press(const QKeyEvent &key);
+    bool click(const QMouseEvent &press);
     bool extendTo(int row);
     void removeRows();
     void openGrid();
     void endSelection();
 
     HbTablePopupWidget &m_editor;
-    HbMFieldTable &m_table;
+    QPointer<HbMFieldTable> m_table;
     HbFieldEditorCommandManager &m_manager;
     int m_anchor = -1; ///< where the selection began; -1 without one
 };

@@ -45,7 +45,8 @@ void TableManager::setEditor(HbFieldEditors *editor)
         popup->installEventFilter(this);
         new MatrixRows(*popup, *m_table, *this);
     }
-    m_table->viewport()->installEventFilter(this);
+    m_cellEditors = m_table->viewport();
+    m_cellEditors->installEventFilter(this);
 }
 
 void TableManager::setField(SoField *field)
@@ -262,7 +263,7 @@ void TableManager::paste()
 
 bool TableManager::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched == m_table->viewport()) {
+    if (watched == m_cellEditors) {
         if (event->type() == QEvent::ChildAdded || event->type() == QEvent::ChildRemoved)
             QMetaObject::invokeMethod(this, &TableManager::cellEditorsChanged, Qt::QueuedConnection);
         return false;

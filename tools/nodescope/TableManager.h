@@ -59,6 +59,7 @@ private:
 
     HbMFieldWidget *m_widget = nullptr;
     HbMFieldTable *m_table = nullptr;
+    QObject *m_cellEditors = nullptr; ///< their parent in the table
     QObject *m_keyboard = nullptr; ///< what has the focus in the table's place
     std::optional<CellClipboard> m_clipboard;
     std::optional<CellSupply> m_supply;
