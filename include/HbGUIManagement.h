@@ -51,7 +51,7 @@ public:
 
     /**
      * Makes an editor of @p field for a plug-in, by @p create, and returns it; it belongs to the parent it was created
-     * with.
+     * with. Null where @p create makes none.
      *
      * A tool overrides this to supply a command manager of its own, so that edits in a plug-in can be undone there,
      * and to keep the editor up to date. By default the editor writes the field itself and is refreshed once.

@@ -37,8 +37,10 @@ SoNode *HbGUIManagement::getNode(QTreeWidgetItem *)
 HbFieldEditors *HbGUIManagement::createFieldEditor(SoField *field, const FieldEditorFactory &create)
 {
     HbFieldEditors *const editor = create(nullptr);
-    editor->setField(field);
-    editor->refresh();
+    if (editor) {
+        editor->setField(field);
+        editor->refresh();
+    }
     return editor;
 }
 

@@ -108,7 +108,7 @@ void flushEvents()
 {
     constexpr int rounds = 8;
     for (int round = 0; round < rounds; ++round) {
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::MetaCall);
+        QCoreApplication::sendPostedEvents();
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }
 }
@@ -120,13 +120,10 @@ void release(const SbString &path, void (*releaseInstance)())
     withdrawEditors(library);
     const bool isReleased = callPlugin(path, releaseInstance);
     flushEvents();
-    if (!isReleased) // who knows what of it is still in use: the code stays
-        return;
-    if (widgetsOf(library).empty())
+    if (isReleased && widgetsOf(library).empty() && !SharedLibrary::isRunning(library))
         SharedLibrary::close(library);
     else
-        SoDebugError::postWarning(source, "Plugin '%s' left widgets behind: its code stays in memory",
-                                  path.getString());
+        SoDebugError::postWarning(source, "Plugin '%s' is still in use: its code stays in memory", path.getString());
 }
 } // namespace
 

@@ -83,6 +83,9 @@ void HbNscPluginsManagerDialog::buildDialog()
     buttons->addWidget(add);
     buttons->addWidget(remove);
     layout->addLayout(buttons);
+    QWidget::setTabOrder(pluginsTree, add);
+    QWidget::setTabOrder(add, remove);
+    pluginsTree->setFocus();
     connect(frame, &QObject::destroyed, this, &HbNscPluginsManagerDialog::hideDialog);
 }
 
@@ -127,8 +130,11 @@ void HbNscPluginsManagerDialog::removePlugin()
     const QTreeWidgetItem *const current = pluginsTree ? pluginsTree->currentItem() : nullptr;
     if (!manager || !current || !current->isSelected()) // the keyboard may stand in a row without selecting it
         return;
+    const QPointer<HbNscPluginsManagerDialog> self(this);
     const QPersistentModelIndex row(pluginsTree->currentIndex());
     manager->unloadPlugin(current->text(Path).toLatin1().constData());
+    if (!self)
+        return;
     if (row.isValid() && pluginsTree)
         pluginsTree->model()->removeRow(row.row());
     if (management)

@@ -5,6 +5,7 @@
 
 #include "QtCompat.h"
 
+#include <QDir>
 #include <QFile>
 #include <QSettings>
 #include <QStandardPaths>
@@ -23,8 +24,8 @@ QByteArray textInFile(const char *key)
 
 QString Preferences::fileName()
 {
-    return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation)
-        + QLatin1String("/nodescope/preferences.ini");
+    const QDir directory(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation));
+    return QDir::cleanPath(directory.filePath(QStringLiteral("nodescope/preferences.ini")));
 }
 
 Preferences::Found<QByteArray> Preferences::text(const char *key, const QByteArray &fallback)

@@ -6,8 +6,10 @@
 #include <QLoggingCategory>
 
 #include <dlfcn.h>
+#include <execinfo.h>
 #include <link.h>
 
+#include <algorithm>
 #include <cstring>
 #include <filesystem>
 #include <fstream>
@@ -25,6 +27,29 @@ std::map<QByteArray, void *> &handles()
     return *open;
 }
 
+/// A path under which the library is known.
+auto pathTo(void *handle)
+{
+    return std::find_if(handles().begin(), handles().end(),
+                        [handle](const auto &open) { return open.second == handle; });
+}
+
+/// What the dynamic linker starts from, and does not check: a copy that was broken off may have nothing there.
+bool namesItsSymbols(std::ifstream &file, const ElfW(Phdr) & segment)
+{
+    bool hasNames = false;
+    bool hasSymbols = false;
+    file.seekg(static_cast<std::streamoff>(segment.p_offset));
+    for (auto left = segment.p_filesz; left >= sizeof(ElfW(Dyn)); left -= sizeof(ElfW(Dyn))) {
+        ElfW(Dyn) entry;
+        if (!file.read(reinterpret_cast<char *>(&entry), sizeof entry) || entry.d_tag == DT_NULL)
+            break;
+        hasNames |= entry.d_tag == DT_STRTAB && entry.d_un.d_ptr != 0;
+        hasSymbols |= entry.d_tag == DT_SYMTAB && entry.d_un.d_ptr != 0;
+    }
+    return hasNames && hasSymbols;
+}
+
 /// Whether the file holds all that its program headers promise: mapping one that was cut short would raise SIGBUS.
 bool isWholeLibrary(const std::string &path)
 {
@@ -40,15 +65,18 @@ bool isWholeLibrary(const std::string &path)
     if (std::memcmp(header.e_ident, ELFMAG, SELFMAG) != 0 || header.e_ident[EI_CLASS] != nativeClass
         || header.e_phentsize != sizeof(ElfW(Phdr)))
         return false;
-    file.seekg(static_cast<std::streamoff>(header.e_phoff));
-    for (int i = 0; i < header.e_phnum; ++i) {
+    bool isDynamic = false;
+    for (std::size_t i = 0; i < header.e_phnum; ++i) {
         ElfW(Phdr) segment;
+        file.seekg(static_cast<std::streamoff>(header.e_phoff + i * sizeof segment));
         if (!file.read(reinterpret_cast<char *>(&segment), sizeof segment))
+            return false;
+        if (segment.p_type == PT_DYNAMIC && !(isDynamic = namesItsSymbols(file, segment)))
             return false;
         if (segment.p_type == PT_LOAD && (segment.p_filesz > size || segment.p_offset > size - segment.p_filesz))
             return false;
     }
-    return true;
+    return isDynamic;
 }
 
 /// The dynamic linker's own record of an open library; null for null.
@@ -81,6 +109,8 @@ bool SharedLibrary::load(const QByteArray &path, bool resolveNow)
         return false;
     }
     qCDebug(plugins, "%s is open", path.constData());
+    if (pathTo(handle) != handles().end())
+        dlclose(handle); // one count for the file, whatever paths lead to it
     handles().emplace(path, handle);
     return true;
 }
@@ -93,8 +123,13 @@ void *SharedLibrary::symbol(const QByteArray &path, const QByteArray &name)
 
 void *SharedLibrary::take(const QByteArray &path)
 {
-    const auto library = handles().extract(path);
-    return library ? library.mapped() : nullptr;
+    const auto library = handles().find(path);
+    if (library == handles().end())
+        return nullptr;
+    void *const handle = library->second;
+    for (auto other = pathTo(handle); other != handles().end(); other = pathTo(handle))
+        handles().erase(other);
+    return handle;
 }
 
 bool SharedLibrary::holds(void *library, const void *address)
@@ -102,6 +137,13 @@ bool SharedLibrary::holds(void *library, const void *address)
     void *holder = nullptr;
     Dl_info info;
     return dladdr1(address, &info, &holder, RTLD_DL_LINKMAP) != 0 && holder && holder == mapOf(library);
+}
+
+bool SharedLibrary::isRunning(void *library)
+{
+    void *frames[512];
+    const int count = backtrace(frames, int(std::size(frames)));
+    return std::any_of(frames, frames + count, [library](void *frame) { return holds(library, frame); });
 }
 
 void SharedLibrary::close(void *library)

@@ -24,11 +24,14 @@ bool load(const QByteArray &path, bool resolveNow);
 /// The address of a symbol; null where there is none, or where the library is not open.
 void *symbol(const QByteArray &path, const QByteArray &name);
 
-/// Forgets the library, which stays open, and returns its handle.
+/// Forgets the library, which stays open, under this and any other path, and returns its handle.
 void *take(const QByteArray &path);
 
 /// Whether @p address lies in the library that take() returned.
 bool holds(void *library, const void *address);
+
+/// Whether a function of the library has called, by whatever way, the one that asks.
+bool isRunning(void *library);
 
 /// Closes a library that take() returned.
 void close(void *library);

@@ -37,6 +37,14 @@ private:
     int m_more;
 };
 
+/// An event that this library ends.
+class Parcel : public QEvent
+{
+public:
+    Parcel() : QEvent(QEvent::User) { }
+    ~Parcel() override { }
+};
+
 class Editor : public HbEditors
 {
 public:
@@ -59,6 +67,7 @@ public:
     {
         delete m_editor;
         new Straggler(2); // deletes itself
+        QCoreApplication::postEvent(qApp, new Parcel); // owned by the event loop
     }
     void sayGoodbye() const
     {

@@ -36,10 +36,11 @@ void EditManager::setEditor(HbFieldEditors *editor)
     m_frame = editor;
     m_slider = editor->findChild<QSlider *>();
     m_edit = editor->findChild<QLineEdit *>();
-    m_line = editor->findChild<QLineEdit *>(QStringLiteral("lineEdit"));
-    if (m_line && !m_line->isEnabled())
-        m_line = nullptr;
-    m_isMask = dynamic_cast<HbSFBitMaskWidget *>(editor);
+    m_isStandard = EditorTable::isStandard(*editor);
+    auto *const line = editor->findChild<QLineEdit *>(QStringLiteral("lineEdit"));
+    if (m_isStandard && line && line->isEnabled())
+        m_line = line;
+    m_isMask = m_isStandard && dynamic_cast<HbSFBitMaskWidget *>(editor);
     if (m_isMask) {
         const auto boxes = editor->findChildren<QCheckBox *>();
         for (const QCheckBox *const box : boxes) // writes the field itself, in a connection made earlier
@@ -74,12 +75,19 @@ void EditManager::refresh()
 {
     const QScopedValueRollback<bool> guard(m_refreshing, true);
     // a mask's boxes stay as they were clicked: bits of several boxes would come back with any of them
-    if (m_field && !(m_isMask && m_before && m_before->isSameValue(FieldSnapshot(*m_field))))
+    if (m_field && m_isStandard && !(m_isMask && m_before && m_before->isSameValue(FieldSnapshot(*m_field))))
         EditorTable::renew(*m_editor, *m_field);
     m_editor->refresh();
     if (m_line)
         m_shownLine = m_line->text();
     remember();
+}
+
+/// A drag that ends with its editor counts like any other.
+EditManager::~EditManager()
+{
+    if (isHeld() && m_field && m_stack && m_before)
+        record(*m_before, FieldCommand::noSeries);
 }
 
 bool EditManager::isListening() const
@@ -148,7 +156,8 @@ void EditManager::sfieldSetValue(SbString *previousData)
     }
     edit(before, [this, &before] {
         m_editor->applyChanges();
-        keepUntouchedParts(*m_editor, before.value(), *m_field);
+        if (m_isStandard)
+            keepUntouchedParts(*m_editor, before.value(), *m_field);
     });
 }
 

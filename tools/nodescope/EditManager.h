@@ -32,6 +32,7 @@ class EditManager : public HbFieldEditorCommandManager
 
 public:
     explicit EditManager(QUndoStack *stack, QObject *parent = nullptr);
+    ~EditManager() override;
 
     /// The editor that was created with this manager; once.
     virtual void setEditor(HbFieldEditors *editor);
@@ -90,6 +91,7 @@ private:
     std::optional<FieldSnapshot> m_before; ///< from before the slider's next move
     std::optional<FieldSnapshot> m_dragged; ///< what a held slider left in the field
     int m_positionBefore = 0;
+    bool m_isStandard = false; ///< of a class that is known
     bool m_isMask = false; ///< the editor writes by itself
     int m_series;
     std::optional<OwnEdit> m_hold; ///< while a mouse button holds the slider, whose moves are written at once

@@ -41,6 +41,7 @@
 #include <HbSFUInt32Widget.h>
 #include <HbSFUShortWidget.h>
 #include <HbSFVec2fWidget.h>
+#include <HbSFVec2i32Widget.h>
 #include <HbSFVec2sWidget.h>
 #include <HbSFVec3fWidget.h>
 #include <HbSFVec4fWidget.h>
@@ -53,6 +54,7 @@
 #include <Inventor/fields/SoFields.h>
 
 #include <algorithm>
+#include <typeinfo>
 #include <vector>
 
 namespace
@@ -164,6 +166,11 @@ constexpr EditorKind anySingleValue = {nullptr, plain<HbSFLineWidget>, nullptr, 
 constexpr EditorKind anyValues = {nullptr, plain<HbMFDefaultFieldWidget>, nullptr, false};
 constexpr EditorKind tooLong = {nullptr, text, nullptr, false};
 
+template <class... Widgets> bool isOneOf(const HbFieldEditors &editor)
+{
+    return ((typeid(editor) == typeid(Widgets)) || ...);
+}
+
 bool intersects(const SoSFEnum &mask, const QString &wanted)
 {
     for (int i = 0; i < mask.getNumEnums(); ++i) {
@@ -203,6 +210,14 @@ QStringList EditorTable::choices(const SoField &field)
     return names;
 }
 
+bool EditorTable::isStandard(const HbFieldEditors &editor)
+{
+    return isOneOf<HbSFBitMaskWidget, HbSFBox3sWidget, HbSFColorWidget, HbSFEnumWidget, HbSFFloatWidget,
+                   HbSFInt32Widget, HbSFLineWidget, HbSFMatrixWidget, HbSFNameWidget, HbSFPlaneWidget,
+                   HbSFRotationWidget, HbSFShortWidget, HbSFStringWidget, HbSFUInt32Widget, HbSFUShortWidget,
+                   HbSFVec2fWidget, HbSFVec2i32Widget, HbSFVec2sWidget, HbSFVec3fWidget, HbSFVec4fWidget>(editor);
+}
+
 HbRangeComponent EditorTable::rangeFor(const EditorKind &kind, const SoField &field)
 {
     static const HbRangeSettings settings;
@@ -236,6 +251,8 @@ void EditorTable::resetRange(HbFieldEditors &editor, const HbRangeComponent &ran
 void EditorTable::renew(HbFieldEditors &editor, const SoField &field)
 {
     const QStringList names = choices(field);
+    if (names.isEmpty())
+        return;
     if (auto *const box = editor.findChild<QComboBox *>(); box && box->count() == names.size()) {
         for (int i = 0; i < names.size(); ++i)
             box->setItemText(i, names[i]);

@@ -28,6 +28,10 @@ namespace EditorTable
 /// Always finds one.
 const EditorKind &kindFor(const SoField &field);
 
+/// Whether the editor is of one of the library's classes for single values, and not of one derived from them: its
+/// controls then show what the tool takes them to show.
+bool isStandard(const HbFieldEditors &editor);
+
 HbRangeComponent rangeFor(const EditorKind &kind, const SoField &field);
 
 /// The names that an editor for @p field offers; none where it offers no choice.
@@ -37,7 +41,7 @@ QStringList choices(const SoField &field);
 void resetRange(HbFieldEditors &editor, const HbRangeComponent &range);
 
 /// Brings up to date what an editor took from its field when it was built: names taken over by a value that
-/// has none, and the bits of a mask. To be called before each refresh.
+/// has none, and the bits of a mask. To be called before each refresh of a standard editor.
 void renew(HbFieldEditors &editor, const SoField &field);
 } // namespace EditorTable
 

@@ -94,8 +94,10 @@ void FieldRow::adoptControls()
 {
     if (const auto *const access = m_editor->findChild<QSpinBox *>(QStringLiteral("m_accessBox")))
         m_edits.removeAll(access->findChild<QLineEdit *>()); // it edits nothing
-    for (QLineEdit *const edit : std::as_const(m_edits))
+    for (QLineEdit *const edit : std::as_const(m_edits)) {
         edit->installEventFilter(this);
+        connect(edit, &QObject::destroyed, this, [this, edit] { m_edits.removeAll(edit); });
+    }
     const auto spins = m_editor->findChildren<QSpinBox *>();
     for (QSpinBox *const spin : spins)
         spin->setKeyboardTracking(spin->objectName()

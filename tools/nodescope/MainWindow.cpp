@@ -65,9 +65,9 @@ MainWindow::MainWindow(QWidget *parent)
     connect(m_document, &SceneDocument::modifiedChanged, this, &MainWindow::setWindowModified);
     connect(m_files, &FileActions::sceneWanted, this, &MainWindow::finishEditing);
     connect(m_files, &FileActions::saved, this, &MainWindow::showTitle);
-    connect(m_tree, &SceneTree::nodeSelected, m_nodeEditor, &NodeEditor::setNode); // first, so that Tab comes to it first
-    connect(m_tree, &SceneTree::nodeSelected, m_panel, &FieldPanel::setNode);
+    connect(m_tree, &SceneTree::nodeSelected, this, &MainWindow::showSelection);
     connect(m_tree, &SceneTree::rightClicked, this, &MainWindow::showContextMenu);
+    connect(m_nodeEditor, &NodeEditor::message, m_messages, &MessageBar::add);
     connect(m_panel, &FieldPanel::message, m_messages, &MessageBar::add);
     m_plugins = std::make_unique<HbGUIManager>(this);
     showDocument();
@@ -204,11 +204,22 @@ void MainWindow::dropEvent(QDropEvent *event)
 /// What was typed but not committed counts: an editor commits when it loses the focus.
 void MainWindow::finishEditing()
 {
+    const auto fields = findChildren<PluginField *>();
+    for (PluginField *field : fields)
+        field->finish();
     QWidget *editor = focusWidget();
     if (!editor || !m_editors->isAncestorOf(editor))
         return;
     editor->clearFocus();
     editor->setFocus();
+}
+
+/// A plug-in's editor may select another node when it is asked for, so the tree is asked each time. It comes first, so
+/// that Tab comes to it first.
+void MainWindow::showSelection()
+{
+    m_nodeEditor->setNode(m_tree->selectedNode());
+    m_panel->setNode(m_tree->selectedNode());
 }
 
 void MainWindow::showDocument()

@@ -68,6 +68,7 @@ private:
 
     void listDocks();
     void finishEditing();
+    void showSelection();
     void showDocument();
     void showTitle();
     void showContextMenu(QTreeWidgetItem *item);

@@ -6,25 +6,17 @@
 #include "CoinRef.h"
 #include "PluginField.h"
 
-#include <HbEditors.h>
+#include <HbFieldEditors.h>
 
 #include <QApplication>
 #include <QLabel>
+#include <QScopedValueRollback>
 #include <QScrollArea>
 #include <QVBoxLayout>
 
 #include <Inventor/nodes/SoNode.h>
 
-namespace
-{
-HbEditors *editorFor(SoNode *node)
-{
-    HbEditors *editor = nullptr;
-    HbEditors::getRegisteredEditor(node, editor);
-    const bool isAlive = QApplication::allWidgets().contains(editor); // its activation may have deleted it
-    return isAlive ? editor : nullptr;
-}
-} // namespace
+#include <exception>
 
 NodeEditor::NodeEditor(QWidget *parent) : QWidget(parent), m_title(new QLabel(this)), m_area(new QScrollArea(this))
 {
@@ -42,6 +34,8 @@ NodeEditor::NodeEditor(QWidget *parent) : QWidget(parent), m_title(new QLabel(th
     layout->addWidget(m_title);
     layout->addWidget(m_area, 1);
     hide();
+    connect(&m_observer, &FieldObserver::fieldChanged, this, &NodeEditor::follow);
+    connect(&m_observer, &FieldObserver::nodeChanged, this, &NodeEditor::follow);
 }
 
 NodeEditor::~NodeEditor()
@@ -49,17 +43,67 @@ NodeEditor::~NodeEditor()
     giveBack();
 }
 
+/// Runs code of a plug-in, which may throw.
+template <class Call> void NodeEditor::guarded(Call call)
+{
+    try {
+        call();
+    } catch (const std::exception &error) {
+        Q_EMIT message(tr("A plug-in's editor failed: %1").arg(QString::fromUtf8(error.what())));
+    } catch (...) {
+        Q_EMIT message(tr("A plug-in's editor failed"));
+    }
+}
+
+HbEditors *NodeEditor::editorFor(SoNode *node)
+{
+    HbEditors *editor = nullptr;
+    guarded([&] { HbEditors::getRegisteredEditor(node, editor); });
+    const bool isAlive = QApplication::allWidgets().contains(editor); // its activation may have deleted it
+    return isAlive ? editor : nullptr;
+}
+
 void NodeEditor::setNode(SoNode *node)
 {
+    if (m_isAsking && node == m_node.get())
+        return;
     commit();
-    const std::shared_ptr<SoNode> previous = std::exchange(m_node, coinRef(node)); // until its editor has gone over
-    HbEditors *const editor = editorFor(node);
+    const std::shared_ptr<SoNode> asked = coinRef(node);
+    const std::shared_ptr<SoNode> previous = std::exchange(m_node, asked); // until its editor has gone over
+    HbEditors *editor = nullptr;
+    {
+        const QScopedValueRollback<bool> asking(m_isAsking, true);
+        editor = editorFor(node);
+    }
+    if (m_node != asked) // another has been selected meanwhile
+        return;
     if (m_editor != static_cast<QFrame *>(editor)) {
         giveBack();
         if (editor)
             borrow(editor);
     }
+    m_observer.watch(dynamic_cast<HbFieldEditors *>(editor) ? node : nullptr);
+    if (editor)
+        show(editor);
     setVisible(editor);
+}
+
+void NodeEditor::show(HbEditors *editor)
+{
+    QString name;
+    guarded([&] { name = QString::fromLatin1(editor->getName().getString()); });
+    m_title->setText(name);
+    m_area->setAccessibleName(name);
+    editor->show();
+    m_area->updateGeometry(); // it was measured while the editor was hidden
+}
+
+/// A field editor that is registered itself is refreshed by nobody else.
+void NodeEditor::follow()
+{
+    auto *const editor = dynamic_cast<HbFieldEditors *>(m_editor.data());
+    if (editor && !editor->isAncestorOf(QApplication::focusWidget()))
+        editor->refresh();
 }
 
 /// What is being typed belongs to the node that is still shown.
@@ -77,11 +121,7 @@ void NodeEditor::borrow(HbEditors *editor)
 {
     m_editor = editor;
     m_formerParent = editor->parentWidget();
-    const QString name = QString::fromLatin1(editor->getName().getString());
-    m_title->setText(name);
-    m_area->setAccessibleName(name);
     m_area->setWidget(editor);
-    editor->show();
     connect(editor, &QObject::destroyed, this, &QWidget::hide);
 }
 

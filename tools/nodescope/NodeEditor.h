@@ -4,6 +4,8 @@
 #ifndef NODEEDITOR_H
 #define NODEEDITOR_H
 
+#include "FieldObserver.h"
+
 #include <QFrame>
 #include <QPointer>
 
@@ -30,12 +32,22 @@ public:
     /// Asks the registry for the editor of @p node, shows it, and keeps the node alive meanwhile. Null gives back.
     void setNode(SoNode *node);
 
+Q_SIGNALS:
+    /// Something the user should know, in one sentence.
+    void message(const QString &text);
+
 private:
+    template <class Call> void guarded(Call call);
+    HbEditors *editorFor(SoNode *node);
+    void show(HbEditors *editor);
+    void follow();
     void commit();
     void borrow(HbEditors *editor);
     void giveBack();
 
     std::shared_ptr<SoNode> m_node;
+    FieldObserver m_observer;
+    bool m_isAsking = false;
     QPointer<QFrame> m_editor;
     QPointer<QWidget> m_formerParent;
     QLabel *m_title;

@@ -13,7 +13,6 @@
 
 #include <algorithm>
 #include <cstdio>
-#include <cstring>
 
 namespace
 {
@@ -68,66 +67,72 @@ QString configuration()
     return lines.join(QLatin1Char('\n'));
 }
 
+const QString help = QStringLiteral("help");
+const QString version = QStringLiteral("version");
+const QString config = QStringLiteral("print-config");
+
+void describeOptions(QCommandLineParser &parser)
+{
+    const auto tr = [](const char *text) { return QCoreApplication::translate("Options", text); };
+    const auto add = [&](const QStringList &names, const char *text, const char *value = "") {
+        parser.addOption(QCommandLineOption(names, tr(text), QString::fromLatin1(value)));
+    };
+    parser.setApplicationDescription(description());
+    add({QStringLiteral("h"), help}, "Shows this help.");
+    add({QStringLiteral("v"), version}, "Shows the version.");
+    add({QStringLiteral("screenshot")}, "Saves a picture of the window to <file> and ends.", "file");
+    add({QStringLiteral("grab")},
+        "Saves a picture of the editor of the selected node's <field> to <file> and ends. May be repeated.",
+        "field>=<file");
+    add({QStringLiteral("select")},
+        "Selects a node: names and child indices, separated by '/', e.g. Lighthouse/0/Lamp.", "path");
+    add({QStringLiteral("size")}, "The window's size, e.g. 1200x800.", "WxH");
+    add({QStringLiteral("demo")}, "Plays a short demonstration and ends.");
+    add({QStringLiteral("allow-node-libraries")},
+        "Runs shared libraries that are named after node types which the scene uses.");
+    add({config}, "Prints the preferences, their values and where these come from.");
+    parser.addPositionalArgument(QStringLiteral("scene"), tr("The scene to open."), QStringLiteral("[scene]"));
+}
+
+/// The text that was asked for in place of the window.
+QString textFor(const QCommandLineParser &parser)
+{
+    if (parser.isSet(help))
+        return parser.helpText();
+    if (parser.isSet(version))
+        return QCoreApplication::applicationName() + QLatin1Char(' ') + QCoreApplication::applicationVersion();
+    return parser.isSet(config) ? configuration() : QString();
+}
+
 } // namespace
 
 std::optional<Options> Options::parse(const QStringList &arguments, int *exitCode)
 {
-    const auto tr = [](const char *text) { return QCoreApplication::translate("Options", text); };
-    const auto option = [&](const char *name, const char *text, const char *value = "") {
-        return QCommandLineOption(QString::fromLatin1(name), tr(text), QString::fromLatin1(value));
-    };
-    const QCommandLineOption screenshot
-        = option("screenshot", "Saves a picture of the window to <file> and ends.", "file");
-    const QCommandLineOption grab = option(
-        "grab", "Saves a picture of the editor of the selected node's <field> to <file> and ends. May be repeated.",
-        "field>=<file");
-    const QCommandLineOption select = option(
-        "select", "Selects a node: names and child indices, separated by '/', e.g. Lighthouse/0/Lamp.", "path");
-    const QCommandLineOption size = option("size", "The window's size, e.g. 1200x800.", "WxH");
-    const QCommandLineOption demo = option("demo", "Plays a short demonstration and ends.");
-    const QCommandLineOption libraries
-        = option("allow-node-libraries", "Runs shared libraries that are named after node types which the scene uses.");
-
-    const QCommandLineOption config
-        = option("print-config", "Prints the preferences, their values and where these come from.");
-
     QCommandLineParser parser;
-    parser.setApplicationDescription(description());
-    const QCommandLineOption help({QStringLiteral("h"), QStringLiteral("help")}, tr("Shows this help."));
-    const QCommandLineOption version({QStringLiteral("v"), QStringLiteral("version")}, tr("Shows the version."));
-    parser.addOptions({help, version, screenshot, grab, select, size, demo, libraries, config});
-    parser.addPositionalArgument(QStringLiteral("scene"), tr("The scene to open."), QStringLiteral("[scene]"));
-
+    describeOptions(parser);
     const bool parsed = parser.parse(arguments);
     *exitCode = Success;
-    if (parsed && parser.isSet(help)) {
-        print(stdout, parser.helpText());
-        return {};
-    }
-    if (parsed && parser.isSet(version)) {
-        print(stdout, QCoreApplication::applicationName() + QLatin1Char(' ') + QCoreApplication::applicationVersion());
-        return {};
-    }
-    if (parsed && parser.isSet(config)) {
-        print(stdout, configuration());
+    if (const QString text = parsed ? textFor(parser) : QString(); !text.isEmpty()) {
+        print(stdout, text);
         return {};
     }
 
     Options options;
     options.scene = parser.positionalArguments().value(0);
-    options.screenshot = parser.value(screenshot);
-    options.grabs = grabsFrom(parser.values(grab));
-    options.select = parser.value(select);
-    options.size = sizeFrom(parser.value(size));
-    options.demo = parser.isSet(demo);
-    options.allowNodeLibraries = parser.isSet(libraries);
+    options.screenshot = parser.value(QStringLiteral("screenshot"));
+    options.grabs = grabsFrom(parser.values(QStringLiteral("grab")));
+    options.select = parser.value(QStringLiteral("select"));
+    options.size = sizeFrom(parser.value(QStringLiteral("size")));
+    options.demo = parser.isSet(QStringLiteral("demo"));
+    options.allowNodeLibraries = parser.isSet(QStringLiteral("allow-node-libraries"));
 
+    const auto tr = [](const char *text) { return QCoreApplication::translate("Options", text); };
     QString problem;
     if (!parsed)
         problem = parser.errorText();
     else if (parser.positionalArguments().size() > 1)
         problem = tr("Only one scene can be opened.");
-    else if (parser.isSet(size) && !options.size.isValid())
+    else if (parser.isSet(QStringLiteral("size")) && !options.size.isValid())
         problem = tr("A size is written like 1200x800.");
     else if (!std::all_of(options.grabs.begin(), options.grabs.end(), isWhole))
         problem = tr("A picture of an editor is asked for like --grab height=height.png.");
@@ -140,9 +145,8 @@ std::optional<Options> Options::parse(const QStringList &arguments, int *exitCod
 
 bool Options::asksForText(int argc, char **argv)
 {
-    return std::any_of(argv + 1, argv + argc, [](const char *argument) {
-        constexpr const char *names[] = {"-h", "--help", "-v", "--version", "--print-config"};
-        return std::any_of(std::begin(names), std::end(names),
-                           [&](const char *name) { return std::strcmp(argument, name) == 0; });
-    });
+    const QStringList names{QStringLiteral("-h"), QStringLiteral("-v"), QStringLiteral("--") + help,
+                            QStringLiteral("--") + version, QStringLiteral("--") + config};
+    return std::any_of(argv + 1, argv + argc,
+                       [&](const char *argument) { return names.contains(QString::fromLocal8Bit(argument)); });
 }

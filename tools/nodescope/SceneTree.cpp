@@ -60,7 +60,7 @@ void SceneTree::select(const ScenePath &path)
         item = item->child(index);
     }
     setCurrentItem(item);
-    if (item)
+    if (item && item == currentItem()) // who hears of it may select another, or open another scene
         scrollToItem(item);
 }
 

@@ -27,19 +27,21 @@
 void TableManager::setEditor(HbFieldEditors *editor)
 {
     EditManager::setEditor(editor);
-    m_widget = dynamic_cast<HbMFieldWidget *>(editor);
     m_table = editor->findChild<HbMFieldTable *>();
+    auto *const widget = dynamic_cast<HbMFieldWidget *>(editor);
+    if (!m_table || !widget) // of a plug-in, which edits the values in some way of its own
+        return;
     connect(m_table, &QTableWidget::currentCellChanged, this, &TableManager::supplyText);
     connect(stack(), &QUndoStack::indexChanged, this, [this] {
         if (!isDragging())
             remember();
     });
-    m_clipboard.emplace(*m_widget, *m_table);
+    m_clipboard.emplace(*widget, *m_table);
     m_table->horizontalHeader()->setHidden(m_table->columnCount() == 1); // it would say "1"
     m_table->installEventFilter(this);
     auto *const popup = dynamic_cast<HbTablePopupWidget *>(editor);
     if (!popup) {
-        m_supply.emplace(*m_widget, *m_table);
+        m_supply.emplace(*widget, *m_table);
     } else {
         m_keyboard = popup; // its table is disabled
         popup->installEventFilter(this);
@@ -59,6 +61,8 @@ void TableManager::setField(SoField *field)
 void TableManager::refresh()
 {
     EditManager::refresh();
+    if (!m_table)
+        return;
     showSomeRows();
     if (m_table->currentRow() < 0 && m_table->rowCount() > 0)
         m_table->setCurrentCell(0, 0);
@@ -82,7 +86,8 @@ void TableManager::showSomeRows()
 
 void TableManager::finish()
 {
-    m_table->finishEditing();
+    if (m_table)
+        m_table->finishEditing();
 }
 
 SoMField *TableManager::rows() const
@@ -137,13 +142,13 @@ void TableManager::mfieldSet1Value(int row, int col, QString text, SbString *pre
         return;
     const bool isRemembered = dragged && m_rowBefore.row == row;
     editRow(row, isRemembered ? m_rowBefore.before : FieldRows::copy(*rows(), row, 1),
-            isRemembered ? m_wasDefault : bool(rows()->isDefault()), [&] { m_widget->set1Value(row, col, text); });
+            isRemembered ? m_wasDefault : bool(rows()->isDefault()), [&] { editor()->set1Value(row, col, text); });
 }
 
 void TableManager::mfieldSetValue(int row, const void *data)
 {
     if (isListening())
-        editRow(row, FieldRows::copy(*rows(), row, 1), rows()->isDefault(), [&] { m_widget->setValue(row, data); });
+        editRow(row, FieldRows::copy(*rows(), row, 1), rows()->isDefault(), [&] { editor()->setValue(row, data); });
 }
 
 void TableManager::replace(int row, int count, std::shared_ptr<SoMField> values)
@@ -201,7 +206,7 @@ void TableManager::mfieldSwapColumns(int first, int second)
 
 void TableManager::remember()
 {
-    m_rowBefore.row = m_table->currentRow();
+    m_rowBefore.row = m_table ? m_table->currentRow() : -1;
     if (!rows())
         return;
     m_rowBefore.before = FieldRows::copy(*rows(), m_rowBefore.row, 1);
@@ -237,7 +242,7 @@ void TableManager::sliderStepped()
 
 bool TableManager::isDragging() const
 {
-    const auto sliders = m_table->viewport()->findChildren<QSlider *>();
+    const auto sliders = m_table ? m_table->viewport()->findChildren<QSlider *>() : QList<QSlider *>();
     return std::any_of(sliders.begin(), sliders.end(), [](const QSlider *slider) { return slider->isSliderDown(); });
 }
 

@@ -12,7 +12,6 @@
 #include <optional>
 
 class HbMFieldTable;
-class HbMFieldWidget;
 class SoMField;
 
 /**
@@ -57,8 +56,7 @@ private:
 
     void paste();
 
-    HbMFieldWidget *m_widget = nullptr;
-    HbMFieldTable *m_table = nullptr;
+    HbMFieldTable *m_table = nullptr; ///< null in an editor without one
     QObject *m_cellEditors = nullptr; ///< their parent in the table
     QObject *m_keyboard = nullptr; ///< what has the focus in the table's place
     std::optional<CellClipboard> m_clipboard;
