@@ -8,7 +8,6 @@
 
 #include <Inventor/SbString.h>
 
-class RowTextCache;
 
 /// Edits any field of many values as text, where no other editor is made for its type.
 class HARBORAPI_EXPORT HbMFDefaultFieldWidget : public HbMFieldWidget
@@ -34,7 +33,6 @@ public:
 private:
     void initClass();
 
-    std::unique_ptr<RowTextCache> m_texts;
 };
 
 #endif

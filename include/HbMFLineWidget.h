@@ -8,7 +8,6 @@
 
 #include <Inventor/SbString.h>
 
-class RowTextCache;
 
 /// Edits any field of many values as text in file notation; what does not parse is left to the field's parser.
 class HARBORAPI_EXPORT HbMFLineWidget : public HbMFieldWidget
@@ -34,7 +33,6 @@ public:
 private:
     void initClass();
 
-    std::unique_ptr<RowTextCache> m_texts;
 };
 
 #endif

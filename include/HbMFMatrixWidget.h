@@ -6,7 +6,6 @@
 
 #include <HbTablePopupWidget.h>
 
-class RowTextCache;
 
 /**
  * Edits an SoMFMatrix in a grid of four by four. Each row of the table shows the text of the whole field.
@@ -33,7 +32,6 @@ public:
     void swapRows(int first, int second) override;
 
 private:
-    std::unique_ptr<RowTextCache> m_text;
 };
 
 #endif

@@ -51,6 +51,8 @@ public:
     void updateChangedCells(QAbstractItemView *view) const;
     /// The editors that are open in cells of @p view: one, or more where a host has opened some that stay.
     std::vector<QWidget *> openEditors(const QAbstractItemView &view) const;
+    /// Whether the editor was made here, and not by a derived class or another delegate of the table.
+    bool hasMade(const QWidget *editor) const;
     /// Tells slider editors where they are after rows were added or removed.
     void renumberEditors() const;
     /// Takes the text of an editor that is open.

@@ -19,6 +19,7 @@ class QLabel;
 class QPushButton;
 class QSpacerItem;
 class QSpinBox;
+class RowTextCache;
 class SoMField;
 
 /**
@@ -89,6 +90,8 @@ public:
 protected:
     /// The edited field as an F; null where it is none.
     template <class F> F *fieldAs() const;
+    /// Texts that take long to make; dropped when the field changes and by refresh().
+    RowTextCache &textCache() const;
 
     AccessButtonPrivate *m_accessBox;
     QPushButton *m_upButton;
@@ -112,6 +115,7 @@ private:
     void connectAll();
 
     std::unique_ptr<FieldWatch> m_field;
+    std::unique_ptr<RowTextCache> m_textCache;
 };
 
 #endif

@@ -32,6 +32,8 @@ public:
         return *m_texts.insert(row, make());
     }
 
+    void clear() { m_texts.clear(); }
+
 private:
     static constexpr int mostTexts = 1000; ///< more rows than a screen shows
     static void fieldChanged(void *self, SoSensor *) { static_cast<RowTextCache *>(self)->m_texts.clear(); }

@@ -127,11 +127,11 @@ void RowValues::swap(SoMField &field, int first, int second)
 }
 
 // Coin's own insertSpace() and deleteValues() call a virtual function per value that moves.
-void RowValues::insert(SoMField &field, int row)
+bool RowValues::insert(SoMField &field, int row)
 {
     const int count = field.getNum();
     if (row < 0 || row > count)
-        return;
+        return false;
     const OneNotification once(field);
     const bool known = visitAs(Plain(), field, [&](auto &typed) {
         typed.setNum(count + 1);
@@ -141,10 +141,11 @@ void RowValues::insert(SoMField &field, int row)
         typed.finishEditing();
     });
     if (known)
-        return;
+        return true;
     field.insertSpace(row, 1);
     if (!visitAs(Objects(), field, [row](auto &typed) { typed.set1Value(row, nullptr); }))
         field.set1(row, "\"\"");
+    return true;
 }
 
 void RowValues::remove(SoMField &field, int row, int count)

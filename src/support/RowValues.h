@@ -21,7 +21,7 @@ bool contains(const SoMField &field, int row);
 /// Exchanges two values, every bit of them.
 void swap(SoMField &field, int first, int second);
 /// Inserts a value: zero, an empty text, the identity.
-void insert(SoMField &field, int row);
+bool insert(SoMField &field, int row);
 /// Removes as many values as there are from @p row on, at most @p count.
 void remove(SoMField &field, int row, int count);
 

@@ -23,11 +23,12 @@ HbMFColorTable::~HbMFColorTable() = default;
 
 void HbMFColorTable::getColorFromEditor(int row, int col)
 {
-    if (col != 0)
+    const auto isRow = [this, row] { return row >= 0 && row < rowCount(); };
+    if (col != 0 || !isRow())
         return;
     const QPointer<HbMFColorTable> self(this);
     const QColor chosen = chooseColor(HbMFColorTableItemDelegate::colorOf(*m_owner, row), this);
-    if (!self || !chosen.isValid() || row >= rowCount())
+    if (!self || !chosen.isValid() || !isRow())
         return;
     const auto component = [](int level) { return static_cast<float>(level) / 255.0F; };
     const float components[] = {component(chosen.red()), component(chosen.green()), component(chosen.blue())};

@@ -8,8 +8,7 @@
 
 HbMFDefaultFieldWidget::HbMFDefaultFieldWidget(const char *fieldType, HbFieldEditorCommandManager *commandManager,
                                                QWidget *parent, const char *name, Qt::WindowFlags flags)
-    : HbMFieldWidget(fieldType, commandManager, parent, name ? name : "HbMFDefaultFieldWidget", flags),
-      m_texts(std::make_unique<RowTextCache>())
+    : HbMFieldWidget(fieldType, commandManager, parent, name ? name : "HbMFDefaultFieldWidget", flags)
 {
     initClass();
 }
@@ -39,7 +38,7 @@ QString HbMFDefaultFieldWidget::getFieldValue(int row, int col) const
 
 QString HbMFDefaultFieldWidget::getCellText(int row, int col, int limit) const
 {
-    return TextColumn::cellText(*this, *m_texts, row, col, limit);
+    return TextColumn::cellText(*this, textCache(), row, col, limit);
 }
 
 void HbMFDefaultFieldWidget::set1Value(int row, int col, QString text)

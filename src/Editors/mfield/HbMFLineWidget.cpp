@@ -8,8 +8,7 @@
 
 HbMFLineWidget::HbMFLineWidget(const char *fieldType, HbFieldEditorCommandManager *commandManager, QWidget *parent,
                                const char *name, Qt::WindowFlags flags)
-    : HbMFieldWidget(fieldType, commandManager, parent, name ? name : "HbMFLineWidget", flags),
-      m_texts(std::make_unique<RowTextCache>())
+    : HbMFieldWidget(fieldType, commandManager, parent, name ? name : "HbMFLineWidget", flags)
 {
     initClass();
 }
@@ -39,7 +38,7 @@ QString HbMFLineWidget::getFieldValue(int row, int col) const
 
 QString HbMFLineWidget::getCellText(int row, int col, int limit) const
 {
-    return TextColumn::cellText(*this, *m_texts, row, col, limit);
+    return TextColumn::cellText(*this, textCache(), row, col, limit);
 }
 
 void HbMFLineWidget::set1Value(int row, int col, QString text)

@@ -22,8 +22,7 @@ constexpr int elements = side * side;
 
 HbMFMatrixWidget::HbMFMatrixWidget(const char *fieldType, HbFieldEditorCommandManager *commandManager, QWidget *parent,
                                    const char *name, Qt::WindowFlags flags)
-    : HbTablePopupWidget(fieldType, commandManager, side, side, parent, name ? name : "HbMFMatrixWidget", flags),
-      m_text(std::make_unique<RowTextCache>())
+    : HbTablePopupWidget(fieldType, commandManager, side, side, parent, name ? name : "HbMFMatrixWidget", flags)
 {
     setValidator(GridValidators::real6);
 }
@@ -47,7 +46,7 @@ QString HbMFMatrixWidget::getFieldValue(int row, int col) const
     if (!field || !RowValues::contains(*field, row) || col != 0)
         return {};
     constexpr int wholeField = -1;
-    return m_text->text(*field, wholeField, [field] { return CoinText::ofField(*field); });
+    return textCache().text(*field, wholeField, [field] { return CoinText::ofField(*field); });
 }
 
 QString HbMFMatrixWidget::getCellText(int row, int col, int limit) const
@@ -60,7 +59,7 @@ QString HbMFMatrixWidget::getCellText(int row, int col, int limit) const
     const int start = qMax(few, limit / shortest + 2); // two at least: a list is in brackets
     if (matrices->getNum() <= start)
         return getFieldValue(row, col);
-    return m_text->text(*matrices, -1 - start, [&] {
+    return textCache().text(*matrices, -1 - start, [&] {
         SoMFMatrix first;
         first.setValues(0, start, matrices->getValues(0));
         return CoinText::ofField(first);

@@ -112,8 +112,8 @@ void HbMFieldTable::addRow()
     const QPointer<HbMFieldTable> self(this);
     if (m_commandManager)
         m_commandManager->mfieldAddRows(row + 1, 1);
-    else if (SoMField *const field = m_owner->editedField())
-        RowValues::insert(*field, row + 1);
+    else if (SoMField *const field = m_owner->editedField(); field && !RowValues::insert(*field, row + 1))
+        setNumRows(field->getNum()); // it is shorter than the table by now
     if (self)
         setCurrentCell(row, 0);
 }

@@ -38,10 +38,14 @@ bool HbMFieldTable::isOpen(const QWidget *editor) const
     return std::find(open.begin(), open.end(), editor) != open.end();
 }
 
-/// As Qt does, which would go on with a view that the host deletes in answer. It may also speak of an editor whose row
-/// went while it was committed.
+/// As Qt does with editors of other delegates, which would go on with a view that the host deletes in answer. It may
+/// also speak of an editor whose row went while it was committed.
 void HbMFieldTable::commitData(QWidget *editor)
 {
+    if (!m_delegate->hasMade(editor)) {
+        QTableWidget::commitData(editor);
+        return;
+    }
     if (editor == m_committing || !isOpen(editor))
         return;
     const QPointer<HbMFieldTable> self(this);
@@ -58,7 +62,7 @@ void HbMFieldTable::commitData(QWidget *editor)
 
 void HbMFieldTable::closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditHint hint)
 {
-    if (!isOpen(editor))
+    if (m_delegate->hasMade(editor) && !isOpen(editor))
         return;
     auto *const slider = qobject_cast<HbSlider *>(editor);
     if (slider && hint == QAbstractItemDelegate::RevertModelCache)

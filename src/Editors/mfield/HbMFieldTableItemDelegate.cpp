@@ -84,7 +84,7 @@ void HbMFieldTableItemDelegate::paintText(QPainter *painter, const QStyleOptionV
         painter->fillRect(option.rect, option.palette.brush(group, QPalette::Highlight));
     painter->setFont(option.font);
     painter->setPen(option.palette.color(group, isHighlighted ? QPalette::HighlightedText : QPalette::Text));
-    painter->drawText(option.rect, m_owner->getTextFlags(),
+    painter->drawText(option.rect, m_owner->getTextFlags() | Qt::TextSingleLine,
                       TextElision::elided(text, option.rect.width() - textMargin, QFontMetrics(option.font)));
     if (option.state & (QStyle::State_HasFocus | QStyle::State_Selected))
         painter->drawRect(option.rect.adjusted(0, 0, -1, -1));
@@ -114,6 +114,11 @@ std::vector<QWidget *> HbMFieldTableItemDelegate::openEditors(const QAbstractIte
         if (view.indexWidget(editor.value()) == editor.key()) // one that was closed lives on for a while
             open.push_back(editor.key());
     return open;
+}
+
+bool HbMFieldTableItemDelegate::hasMade(const QWidget *editor) const
+{
+    return m_editorCells.contains(const_cast<QWidget *>(editor));
 }
 
 void HbMFieldTableItemDelegate::renumberEditors() const

@@ -9,6 +9,7 @@
 #include "support/FieldDefaults.h"
 #include "support/FieldWatch.h"
 #include "support/Icons.h"
+#include "support/RowTextCache.h"
 
 #include <HbFieldEditorCommandManager.h>
 #include <HbMFColorTable.h>
@@ -56,7 +57,7 @@ HbMFieldTable *newTable(int kind, HbFieldEditorCommandManager *manager, HbMField
 HbMFieldWidget::HbMFieldWidget(const char *fieldType, int tableKind, HbFieldEditorCommandManager *commandManager,
                                QWidget *parent, const char *name, Qt::WindowFlags flags)
     : HbFieldEditors(parent, flags), m_label(new QLabel(this)), m_commandManager(commandManager),
-      m_field(std::make_unique<FieldWatch>())
+      m_field(std::make_unique<FieldWatch>()), m_textCache(std::make_unique<RowTextCache>())
 {
     setObjectName(name ? QString::fromUtf8(name) : QStringLiteral("HbMFieldWidget"));
     createButtons();
@@ -197,6 +198,11 @@ SoMField *HbMFieldWidget::editedField() const
     return static_cast<SoMField *>(m_field->get());
 }
 
+RowTextCache &HbMFieldWidget::textCache() const
+{
+    return *m_textCache;
+}
+
 QSpinBox *HbMFieldWidget::accessBox() const
 {
     return m_accessBox;
@@ -222,6 +228,7 @@ void HbMFieldWidget::refresh()
     const SoMField *const edited = editedField();
     if (!edited || !m_refreshEnabled)
         return;
+    m_textCache->clear(); // of a field that changed in silence, too
     m_table->setNumRows(edited->getNum()); // which evaluates the field
     m_table->viewport()->update();
     m_ignoreButton->setChecked(edited->isIgnored());

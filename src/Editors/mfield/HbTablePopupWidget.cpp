@@ -126,8 +126,11 @@ void HbTablePopupWidget::refresh()
     const QScopedValueRollback<bool> quiet(m_filling, true);
     for (std::size_t i = 0; i < m_popupEdits.size(); ++i) {
         const QString value = getPopupValue(m_table->currentRow(), static_cast<int>(i));
-        if (NumberText::fromFloat(NumberText::toFloat(m_popupEdits[i]->text())) == value)
-            continue; // typed so, or unchanged
+        const QString text = m_popupEdits[i]->text();
+        bool isNumber = false;
+        text.toFloat(&isNumber);
+        if (text == value || (isNumber && NumberText::fromFloat(NumberText::toFloat(text)) == value))
+            continue; // unchanged, or typed so
         m_filledTexts[i] = value;
         m_popupEdits[i]->setText(value);
     }
