@@ -25,10 +25,6 @@
 #include <HbSFVec3fWidget.h>
 #include <HbSFVec4fWidget.h>
 
-#include <QCheckBox>
-#include <QComboBox>
-#include <QLineEdit>
-#include <QPushButton>
 #include <QRandomGenerator>
 
 #include <Inventor/fields/SoFields.h>
@@ -41,28 +37,24 @@ using Manager = HbFieldEditorCommandManager;
 
 const SbName enumNames[] = {"A", "B", "C"};
 
-template <class Widget> HbSFieldWidget *labelled(Manager *manager)
+template <class Widget> HbSFieldWidget *build(Manager *manager)
 {
-    return new Widget("label", manager, nullptr, nullptr, {});
+    if constexpr (std::is_same_v<Widget, HbSFEnumWidget>)
+        return new Widget("label", manager, 3, enumNames, nullptr, nullptr, {});
+    else if constexpr (std::is_same_v<Widget, HbSFFloatWidget>)
+        return new Widget("label", HbRangeComponent(0.0f, 10.0f, false), manager, nullptr, nullptr, {});
+    else if constexpr (std::is_constructible_v<Widget, HbRangeComponent, Manager *, QWidget *, char *, Qt::WindowFlags>)
+        return new Widget("label", HbRangeComponent(0, 100, false), manager, nullptr, nullptr, {});
+    else
+        return new Widget("label", manager, nullptr, nullptr, {});
 }
 
-template <class Widget> HbSFieldWidget *ranged(Manager *manager)
+template <class Widget> EditorKind kind(const char *fieldType, decltype(EditorKind::change) change,
+                                        const QStringList &values, const QString &typed, const QString &written)
 {
-    const HbRangeComponent range = std::is_same_v<Widget, HbSFFloatWidget> ? HbRangeComponent(0.0f, 10.0f, false)
-                                                                           : HbRangeComponent(0, 100, false);
-    return new Widget("label", range, manager, nullptr, nullptr, {});
-}
-
-HbSFieldWidget *enumerated(Manager *manager)
-{
-    return new HbSFEnumWidget("label", manager, 3, enumNames, nullptr, nullptr, {});
-}
-
-EditorKind kind(const char *name, const char *fieldType, decltype(EditorKind::build) build,
-                decltype(EditorKind::change) change, const QStringList &values, const QString &typed,
-                const QString &written)
-{
-    return {name, fieldType, build, change, values, typed, written};
+    const bool isLine = std::is_same_v<Widget, HbSFLineWidget>;
+    const QByteArray name = isLine ? QByteArray("HbSFLineWidget") : "Hb" + QByteArray(fieldType) + "Widget";
+    return {name, fieldType, build<Widget>, change, values, typed, written};
 }
 
 /// Return would have the spin box tell its value once more.
@@ -75,8 +67,7 @@ void typeAndLeave(HbSFieldWidget &editor, const QString &text)
 
 void typeInto(QLineEdit *edit, const QString &text)
 {
-    retype(edit, text);
-    QTest::keyClick(edit, Qt::Key_Return);
+    enter(edit, text);
     edit->clearFocus();
 }
 
@@ -124,16 +115,11 @@ std::vector<float> floats(const QString &text)
     return numbers;
 }
 
-template <class Field> bool setFloats(SoField &field, const QString &text)
+template <class Field, class Value> bool setIfOfType(SoField &field, const Value &value)
 {
     if (!field.isOfType(Field::getClassTypeId()))
         return false;
-    if constexpr (std::is_same_v<Field, SoSFFloat>)
-        static_cast<Field &>(field).setValue(text.toFloat());
-    else if constexpr (std::is_same_v<Field, SoSFMatrix>)
-        static_cast<Field &>(field).setValue(SbMatrix(reinterpret_cast<const SbMat *>(floats(text).data())));
-    else
-        static_cast<Field &>(field).setValue(floats(text).data());
+    static_cast<Field &>(field).setValue(value);
     return true;
 }
 
@@ -201,45 +187,42 @@ SbRotation rotation(const std::vector<float> &numbers)
 const std::vector<EditorKind> &editorKinds()
 {
     static const std::vector<EditorKind> kinds = {
-        kind("HbSFFloatWidget", "SFFloat", ranged<HbSFFloatWidget>, typeIntoFirst,
-             {"0", "-5", "250", "3.40282e+38", "-1.17549e-38", "nan", "inf", "-inf"}, "2.5", "2.5"),
-        kind("HbSFInt32Widget", "SFInt32", ranged<HbSFInt32Widget>, typeIntoFirst,
-             {"0", "-12", "2147483647", "-2147483648"}, "-7", "-7"),
-        kind("HbSFShortWidget", "SFShort", ranged<HbSFShortWidget>, typeIntoFirst, {"0", "32767", "-32768"}, "123",
-             "123"),
-        kind("HbSFUInt32Widget", "SFUInt32", ranged<HbSFUInt32Widget>, typeIntoFirst, {"0x10", "0xffffffff", "0"}, "ff",
-             "0xff"),
-        kind("HbSFUShortWidget", "SFUShort", ranged<HbSFUShortWidget>, typeIntoFirst, {"0x10", "0xffff", "0"}, "2a",
-             "0x2a"),
-        kind("HbSFBoolWidget", "SFBool", labelled<HbSFBoolWidget>, tick, {"TRUE", "FALSE"}, "", "TRUE"),
-        kind("HbSFEnumWidget", "SFEnum", enumerated, chooseNext, {"C", "B", "A"}, "", "B"),
-        kind("HbSFStringWidget", "SFString", labelled<HbSFStringWidget>, typeIntoFirst,
-             {R"("one")", R"("say \"x\"")", QStringLiteral("\"%1\"").arg(QString(40000, 'x')), R"("")"},
-             QStringLiteral("\u00e4 \"q\" \u20ac"), QStringLiteral("\"\u00e4 \\\"q\\\" \u20ac\"")),
-        kind("HbSFNameWidget", "SFName", labelled<HbSFNameWidget>, typeIntoFirst,
-             {R"("one")", R"("two words")", R"("")"}, "a b", R"("a")"),
-        kind("HbSFVec2sWidget", "SFVec2s", labelled<HbSFVec2sWidget>, typeAndLeave,
-             {"1 2", "32767 -32768", "-32768 32767", "30 40"}, "7", "7 40"),
-        kind("HbSFVec2fWidget", "SFVec2f", labelled<HbSFVec2fWidget>, typeIntoFirst,
-             {"1 2", first(extremes, 2), first(strange, 2), "3 4"}, "2.5", "2.5 4"),
-        kind("HbSFVec3fWidget", "SFVec3f", labelled<HbSFVec3fWidget>, typeIntoFirst,
-             {"1 2 3", first(extremes, 3), first(strange, 3), "4 5 6"}, "2.5", "2.5 5 6"),
-        kind("HbSFVec4fWidget", "SFVec4f", labelled<HbSFVec4fWidget>, typeIntoFirst,
-             {"1 2 3 4", extremes, strange, "4 5 6 7"}, "2.5", "2.5 5 6 7"),
-        kind("HbSFRotationWidget", "SFRotation", labelled<HbSFRotationWidget>, typeIntoFirst,
-             {"0 1 0 0.5", "0 0 1 1.5708", "1 0 0 3", "0 0 1 0.5"}, "1", "0.707107 0 0.707107 0.5"),
-        kind("HbSFPlaneWidget", "SFPlane", labelled<HbSFPlaneWidget>, typeIntoFirst,
-             {"0 1 0 2.5", "1 0 0 3.40282e+38", "0 -1 0 -1.17549e-38", "0 0 1 -5"}, "1", "0.707107 0 0.707107 -5"),
-        kind("HbSFColorWidget", "SFColor", labelled<HbSFColorWidget>, typeIntoFirst,
-             {"1 0.5 0", first(extremes, 3), first(strange, 3), "0.1 0.2 0.3"}, "2.5", "2.5 0.2 0.3"),
-        kind("HbSFLineWidget", "SFVec3f", labelled<HbSFLineWidget>, typeIntoFirst,
-             {"1 2 3", "3.4028235e+38 -1.1754944e-38 0.0123456789", "4 5 6"}, "7 8 9", "7 8 9"),
-        kind("HbSFMatrixWidget", "SFMatrix", labelled<HbSFMatrixWidget>, typeIntoPopup,
-             {"1 2 3 4 5 6 7 8 9 10 11 12 13 14 15 16", QStringList({extremes, extremes, strange, strange}).join(' '),
-              "1 0 0 0 0 1 0 0 0 0 1 0 5 6 7 1"},
-             "2.5", "2.5 0 0 0 0 1 0 0 0 0 1 0 5 6 7 1"),
-        kind("HbSFBox3sWidget", "SFBox3s", labelled<HbSFBox3sWidget>, typeIntoPopup,
-             {"1 2 3 4 5 6", "32767 32767 32767 -32768 -32768 -32768", "-1 -2 -3 4 5 6"}, "10", "10 -2 -3 4 5 6"),
+        kind<HbSFFloatWidget>("SFFloat", typeIntoFirst,
+                              {"0", "-5", "250", "3.40282e+38", "-1.17549e-38", "nan", "inf", "-inf"}, "2.5", "2.5"),
+        kind<HbSFInt32Widget>("SFInt32", typeIntoFirst, {"0", "-12", "2147483647", "-2147483648"}, "-7", "-7"),
+        kind<HbSFShortWidget>("SFShort", typeIntoFirst, {"0", "32767", "-32768"}, "123", "123"),
+        kind<HbSFUInt32Widget>("SFUInt32", typeIntoFirst, {"0x10", "0xffffffff", "0"}, "ff", "0xff"),
+        kind<HbSFUShortWidget>("SFUShort", typeIntoFirst, {"0x10", "0xffff", "0"}, "2a", "0x2a"),
+        kind<HbSFBoolWidget>("SFBool", tick, {"TRUE", "FALSE"}, "", "TRUE"),
+        kind<HbSFEnumWidget>("SFEnum", chooseNext, {"C", "B", "A"}, "", "B"),
+        kind<HbSFStringWidget>(
+            "SFString", typeIntoFirst,
+            {R"("one")", R"("say \"x\"")", QStringLiteral("\"%1\"").arg(QString(40000, 'x')), R"("")"},
+            QStringLiteral("\u00e4 \"q\" \u20ac"), QStringLiteral("\"\u00e4 \\\"q\\\" \u20ac\"")),
+        kind<HbSFNameWidget>("SFName", typeIntoFirst, {R"("one")", R"("two words")", R"("")"}, "a b", R"("a")"),
+        kind<HbSFVec2sWidget>("SFVec2s", typeAndLeave, {"1 2", "32767 -32768", "-32768 32767", "30 40"}, "7", "7 40"),
+        kind<HbSFVec2fWidget>("SFVec2f", typeIntoFirst, {"1 2", first(extremes, 2), first(strange, 2), "3 4"}, "2.5",
+                              "2.5 4"),
+        kind<HbSFVec3fWidget>("SFVec3f", typeIntoFirst, {"1 2 3", first(extremes, 3), first(strange, 3), "4 5 6"},
+                              "2.5", "2.5 5 6"),
+        kind<HbSFVec4fWidget>("SFVec4f", typeIntoFirst, {"1 2 3 4", extremes, strange, "4 5 6 7"}, "2.5", "2.5 5 6 7"),
+        kind<HbSFRotationWidget>("SFRotation", typeIntoFirst, {"0 1 0 0.5", "0 0 1 1.5708", "1 0 0 3", "0 0 1 0.5"},
+                                 "1", "0.707107 0 0.707107 0.5"),
+        kind<HbSFPlaneWidget>("SFPlane", typeIntoFirst,
+                              {"0 1 0 2.5", "1 0 0 3.40282e+38", "0 -1 0 -1.17549e-38", "0 0 1 -5"}, "1",
+                              "0.707107 0 0.707107 -5"),
+        kind<HbSFColorWidget>("SFColor", typeIntoFirst,
+                              {"1 0.5 0", first(extremes, 3), first(strange, 3), "0.1 0.2 0.3"}, "2.5", "2.5 0.2 0.3"),
+        kind<HbSFLineWidget>("SFVec3f", typeIntoFirst, {"1 2 3", "3.4028235e+38 -1.1754944e-38 0.0123456789", "4 5 6"},
+                             "7 8 9", "7 8 9"),
+        kind<HbSFMatrixWidget>("SFMatrix", typeIntoPopup,
+                               {"1 2 3 4 5 6 7 8 9 10 11 12 13 14 15 16",
+                                QStringList({extremes, extremes, strange, strange}).join(' '),
+                                "1 0 0 0 0 1 0 0 0 0 1 0 5 6 7 1"},
+                               "2.5", "2.5 0 0 0 0 1 0 0 0 0 1 0 5 6 7 1"),
+        kind<HbSFBox3sWidget>("SFBox3s", typeIntoPopup,
+                              {"1 2 3 4 5 6", "32767 32767 32767 -32768 -32768 -32768", "-1 -2 -3 4 5 6"}, "10",
+                              "10 -2 -3 4 5 6"),
     };
     return kinds;
 }
@@ -266,30 +249,31 @@ QString textOf(SoField &field)
 
 void setText(SoField &field, const QString &text)
 {
-    if (!text.contains(QLatin1String("nan")) && !text.contains(QLatin1String("inf")))
+    if (!text.contains(QLatin1String("nan")) && !text.contains(QLatin1String("inf"))) {
         field.set(text.toUtf8().constData());
-    else if (!setFloats<SoSFFloat>(field, text) && !setFloats<SoSFVec2f>(field, text)
-             && !setFloats<SoSFVec3f>(field, text) && !setFloats<SoSFVec4f>(field, text)
-             && !setFloats<SoSFColor>(field, text))
-        setFloats<SoSFMatrix>(field, text);
+        return;
+    }
+    const std::vector<float> numbers = floats(text);
+    setIfOfType<SoSFFloat>(field, numbers[0]);
+    setIfOfType<SoSFVec2f>(field, numbers.data());
+    setIfOfType<SoSFVec3f>(field, numbers.data());
+    setIfOfType<SoSFVec4f>(field, numbers.data());
+    setIfOfType<SoSFColor>(field, numbers.data());
+    if (numbers.size() == 16)
+        setIfOfType<SoSFMatrix>(field, SbMatrix(reinterpret_cast<const SbMat *>(numbers.data())));
 }
 
 void setRandomValue(SoField &field, QRandomGenerator &random)
 {
     const auto number = [&random](double size) { return static_cast<float>((2 * random.generateDouble() - 1) * size); };
-    if (field.isOfType(SoSFString::getClassTypeId()))
-        static_cast<SoSFString &>(field).setValue(randomText(random).toUtf8().constData());
-    else if (field.isOfType(SoSFName::getClassTypeId())) // whose parser takes a quote before a newline for the end
-        static_cast<SoSFName &>(field).setValue(randomText(random).remove(QLatin1Char('\n')).toUtf8().constData());
-    else if (field.isOfType(SoSFEnum::getClassTypeId()))
-        static_cast<SoSFEnum &>(field).setValue(random.bounded(3));
-    else if (field.isOfType(SoSFBool::getClassTypeId()))
-        static_cast<SoSFBool &>(field).setValue(random.bounded(2));
-    else if (field.isOfType(SoSFRotation::getClassTypeId()))
-        static_cast<SoSFRotation &>(field).setValue(SbVec3f(number(1), number(1), number(1)), number(6.28));
-    else if (field.isOfType(SoSFPlane::getClassTypeId()))
-        static_cast<SoSFPlane &>(field).setValue(SbPlane(SbVec3f(number(1), number(1), number(1)), number(1e6)));
-    else
+    const auto axis = [&number] { return SbVec3f(number(1), number(1), number(1)); };
+    // the parser of names takes a quote before a newline for the end
+    const bool hasValue = setIfOfType<SoSFString>(field, randomText(random).toUtf8().constData())
+        || setIfOfType<SoSFName>(field, randomText(random).remove(QLatin1Char('\n')).toUtf8().constData())
+        || setIfOfType<SoSFEnum>(field, random.bounded(3)) || setIfOfType<SoSFBool>(field, random.bounded(2))
+        || setIfOfType<SoSFRotation>(field, SbRotation(axis(), number(6.28)))
+        || setIfOfType<SoSFPlane>(field, SbPlane(axis(), number(1e6)));
+    if (!hasValue)
         setText(field, randomNumbers(field, random));
 }
 

@@ -16,7 +16,7 @@ class QRandomGenerator;
 
 /// One row of the contract: an editor, its field's type, and values in the field's notation.
 struct EditorKind {
-    const char *name;
+    QByteArray name;
     const char *fieldType;
     HbSFieldWidget *(*build)(HbFieldEditorCommandManager *);
     void (*change)(HbSFieldWidget &, const QString &); ///< what a person does to commit a text

@@ -8,10 +8,14 @@
 #include <HbFieldEditors.h>
 
 #include <QApplication>
+#include <QCheckBox>
 #include <QColorDialog>
+#include <QComboBox>
+#include <QLabel>
 #include <QLineEdit>
-#include <QRegularExpression>
-#include <QStringList>
+#include <QPushButton>
+#include <QSlider>
+#include <QSpinBox>
 #include <QTableWidget>
 #include <QtTest>
 
@@ -202,6 +206,15 @@ inline void onceOpen(const std::function<void(QColorDialog &)> &action)
     timer->start(1);
 }
 
+/// Shows an editor with its field in the active window.
+inline void present(HbFieldEditors &editor, SoField *field)
+{
+    editor.setField(field);
+    editor.refresh();
+    editor.show();
+    QApplication::setActiveWindow(&editor);
+}
+
 /// Opens a cell's editor; where one types in it, or null if the cell has none.
 inline QLineEdit *openCell(QTableWidget *table, int row, int col)
 {
@@ -226,6 +239,12 @@ template <class Edit> void retype(Edit *edit, const QString &text)
         QKeyEvent press(QEvent::KeyPress, Qt::Key_unknown, Qt::NoModifier, QString(character));
         QCoreApplication::sendEvent(edit, &press);
     }
+}
+
+inline void enter(QLineEdit *edit, const QString &text, Qt::Key end = Qt::Key_Return)
+{
+    retype(edit, text);
+    QTest::keyClick(edit, end);
 }
 
 #endif

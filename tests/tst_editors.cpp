@@ -3,11 +3,7 @@
 
 #include "TestSupport.h"
 
-#include "Editors/FieldEditorSettings.h"
-
 #include <HbSFieldWidget.h>
-
-#include <QPushButton>
 
 #include <Inventor/nodes/SoCone.h>
 
@@ -32,7 +28,7 @@ QPushButton *button(const QWidget &widget, const char *name)
 }
 } // namespace
 
-/// What every editor shares: settings, commands, the frame of the single-value editors.
+/// What every editor shares: commands, the frame of the single-value editors.
 class TestEditors : public QObject
 {
     Q_OBJECT
@@ -40,12 +36,6 @@ class TestEditors : public QObject
 private Q_SLOTS:
     void initTestCase() { Complaints::listen(); }
     void cleanup() { QCOMPARE(Complaints::take(), QByteArray()); }
-
-    void settings()
-    {
-        QCOMPARE(nscsettings_fieldEditor(QStringLiteral("MFGlobalLayoutMarging")), 6); // so it is called
-        QCOMPARE(nscsettings_fieldEditor(QStringLiteral("sfieldlayoutmargin")), 0);
-    }
 
     void commandsCalledByName()
     {
@@ -62,25 +52,23 @@ private Q_SLOTS:
         QVERIFY(odd.findChild<QFrame *>(QStringLiteral("m_editionFrame")));
     }
 
-    void unmanagedEditorsWrite()
+    void managerMayDieFirst()
     {
         const Ref<SoCone> cone;
         cone->height = 7;
         auto manager = std::make_unique<RecordingManager>();
         Widget orphan(manager.get(), nullptr, nullptr, {});
         manager.reset(); // from here on as if there never was one
-        Widget alone("x", nullptr, nullptr, nullptr, {});
+        Widget alone(nullptr, nullptr, nullptr, {});
         for (Widget *const widget : {&alone, &orphan}) {
             widget->setField(&cone->height);
-            widget->setCommandValue();
-            QCOMPARE(widget->writes, 1);
-            cone->height.setIgnored(FALSE);
-            widget->refresh();
-            button(*widget, "m_ignoreButton")->click();
-            QVERIFY(cone->height.isIgnored());
             button(*widget, "m_defaultButton")->click();
             QCOMPARE(cone->height.getValue(), 7.0f);
         }
+        orphan.setCommandValue();
+        QCOMPARE(orphan.writes, 1);
+        button(orphan, "m_ignoreButton")->click();
+        QVERIFY(cone->height.isIgnored());
     }
 
     void defaultValueIsWrittenDirectly()
@@ -104,20 +92,14 @@ private Q_SLOTS:
     void safeWithoutAField()
     {
         Widget widget(nullptr, nullptr, nullptr, {});
-        const auto useAll = [&widget] {
-            widget.refresh();
-            widget.setCommandValue();
-            widget.setDefaultFieldValue();
-            button(widget, "m_ignoreButton")->click();
-            widget.updateEditor();
-        };
-        useAll();
         {
             const Ref<SoCone> cone;
             widget.setField(&cone->height);
         }
         QCOMPARE(widget.editedField(), nullptr); // it died
-        useAll();
+        widget.setCommandValue();
+        widget.setDefaultFieldValue();
+        widget.updateEditor();
     }
 };
 

@@ -7,31 +7,21 @@
 #include "TestSupport.h"
 
 #include "tools/nodescope/FieldPanel.h"
+#include "tools/nodescope/SceneFile.h"
+#include "tools/nodescope/SceneOutput.h"
 
-#include <QApplication>
-#include <QLineEdit>
-#include <QSlider>
 #include <QUndoStack>
 
 #include <Inventor/SoInteraction.h>
-#include <Inventor/SoOutput.h>
 #include <Inventor/actions/SoWriteAction.h>
 #include <Inventor/nodes/SoCone.h>
-
-#include <cstdlib>
 
 /// The node as it would be saved.
 inline QByteArray saved(SoNode *node)
 {
-    SoOutput out;
-    out.setBuffer(std::malloc(1024), 1024, std::realloc);
-    SoWriteAction(&out).apply(node);
-    void *buffer = nullptr;
-    size_t size = 0;
-    out.getBuffer(buffer, size);
-    const QByteArray text(static_cast<const char *>(buffer), int(size));
-    std::free(buffer);
-    return text;
+    SceneOutput output{SceneFormat()};
+    SoWriteAction(&output).apply(node);
+    return output.content();
 }
 
 inline void wheel(QWidget *target, int delta)
@@ -80,19 +70,11 @@ private Q_SLOTS:
 protected:
     template <class Control> Control *control(const char *field)
     {
-        for (QFrame *const row : m_panel->findChildren<QFrame *>()) {
-            if (row->accessibleName().endsWith(QString::fromLatin1(field)))
-                return row->findChild<Control *>();
-        }
-        return nullptr;
+        return m_panel->editorOf(QString(field).section('.', 1))->findChild<Control *>();
     }
     QLineEdit *height() { return control<QLineEdit>("Cone.height"); }
     QSlider *slider() { return control<QSlider>("Cone.height"); }
-    void typeHeight(const QString &text, Qt::Key end = Qt::Key_Return)
-    {
-        retype(height(), text);
-        QTest::keyClick(height(), end);
-    }
+    void typeHeight(const QString &text, Qt::Key end = Qt::Key_Return) { enter(height(), text, end); }
 
     std::unique_ptr<QUndoStack> m_stack;
     std::unique_ptr<FieldPanel> m_panel;

@@ -12,23 +12,13 @@
 #include "tools/nodescope/SceneDocument.h"
 #include "tools/nodescope/ScenePath.h"
 
-#include <HbFieldEditors.h>
 #include <HbMFieldTable.h>
 #include <HbPopupWidget.h>
 #include <HbSFRotationWidget.h>
 #include <HbTablePopupLineEdit.h>
 #include <HbTablePopupWidget.h>
 
-#include <QApplication>
-#include <QCheckBox>
-#include <QComboBox>
-#include <QLineEdit>
 #include <QMap>
-#include <QPushButton>
-#include <QRegularExpression>
-#include <QSpinBox>
-#include <QTemporaryDir>
-#include <QTextStream>
 #include <QUndoStack>
 
 #include <Inventor/SoInteraction.h>
@@ -127,8 +117,7 @@ bool change(HbFieldEditors *editor)
         const auto edits = editor->findChildren<QLineEdit *>();
         retype(edits[0], edits[0]->text() == "1" ? "2" : "1"); // an axis, as the angle may be 0 and the axis too
         retype(edits[1], "1");
-        retype(edits[3], altered(edits[3]->text()));
-        QTest::keyClick(edits[3], Qt::Key_Return);
+        enter(edits[3], altered(edits[3]->text()));
     } else if (auto *const choice = editor->findChild<QComboBox *>()) {
         QTest::keyClick(choice, choice->currentIndex() > 0 ? Qt::Key_Up : Qt::Key_Down);
     } else if (auto *const spin = editor->findChild<QSpinBox *>()) {

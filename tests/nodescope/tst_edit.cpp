@@ -6,14 +6,11 @@
 #include "tools/nodescope/EditManager.h"
 
 #include <QAction>
-#include <QCheckBox>
-#include <QPushButton>
 #include <QStyleOptionSlider>
 
 #include <Inventor/engines/SoCalculator.h>
 
 #include <cstring>
-#include <functional>
 #include <limits>
 
 namespace
@@ -59,7 +56,7 @@ class EditTest : public PanelFixture
         QApplication::processEvents();
         return *m_cone;
     }
-    bool hasOddHeight() const { return bitsOf((*m_cone)->height.getValue()) == bitsOf(oddHeight); }
+    bool hasOddHeight() const { return (*m_cone)->height.getValue() == oddHeight; }
 
 private Q_SLOTS:
     void commit()
@@ -159,8 +156,7 @@ private Q_SLOTS:
         coneOfOddHeight();
         control<QCheckBox>("Cone.height")->setChecked(live);
         QLineEdit *const edited = sameField ? height() : control<QLineEdit>("Cone.bottomRadius");
-        retype(edited, "3");
-        QTest::keyClick(edited, Qt::Key_Return);
+        enter(edited, "3");
         QPoint at = handleOf(slider());
         QTest::mousePress(slider(), Qt::LeftButton, {}, at);
         dragTo(slider(), at += QPoint(20, 0));
@@ -201,18 +197,17 @@ private Q_SLOTS:
 
     void sliderSteps_data()
     {
-        QTest::addColumn<QString>("how");
         QTest::addColumn<bool>("live");
-        for (const bool live : {true, false}) {
-            for (const char *const how : {"key", "wheel", "groove", "assistive"})
-                QTest::addRow("%s, %s", how, live ? "live" : "box off") << QString::fromLatin1(how) << live;
+        for (const char *const how : {"key", "wheel", "groove", "assistive"}) {
+            QTest::addRow("%s, live", how) << true;
+            QTest::addRow("%s, box off", how) << false;
         }
     }
 
     void sliderSteps()
     {
-        QFETCH(QString, how);
         QFETCH(bool, live);
+        const QString how = QString(QTest::currentDataTag()).section(',', 0, 0);
         SoCone *const cone = coneOfOddHeight();
         control<QCheckBox>("Cone.height")->setChecked(live);
         slider()->setFocus();
@@ -299,8 +294,7 @@ private Q_SLOTS:
 
     void unfinishedText()
     {
-        retype(height(), "1e");
-        QTest::keyClick(height(), Qt::Key_Return);
+        typeHeight("1e");
         QTest::keyClick(height(), Qt::Key_Tab);
         QApplication::processEvents();
         QCOMPARE(height()->text(), QString("2"));

@@ -4,9 +4,11 @@
 #include "PanelFixture.h"
 
 #include "tools/nodescope/FieldRows.h"
+#include "tools/nodescope/MainWindow.h"
 
 #include <HbMFieldTable.h>
 
+#include <QCheckBox>
 #include <QClipboard>
 #include <QPushButton>
 
@@ -132,6 +134,79 @@ private Q_SLOTS:
         QVERIFY(!material->shininess.isDefault());
         m_stack->undo();
         QVERIFY(material->shininess.isDefault());
+        QCoreApplication::processEvents();
+        shininess->findChild<QCheckBox *>()->setChecked(false);
+        slider->triggerAction(QSlider::SliderPageStepAdd);
+        QVERIFY(material->shininess[0] > 0.5f); // it is no drag
+        m_stack->undo();
+        shininess->findChild<QCheckBox *>()->setChecked(true);
+        m_stack->redo();
+        slider->setSliderDown(true);
+        slider->setSliderPosition(10);
+        m_stack->undo(); // the drag goes on from there
+        slider->setSliderPosition(60);
+        m_panel->finish(); // and ends
+        QVERIFY(m_stack->count() == 1 && !material->shininess.isDefault());
+        m_stack->undo();
+        QVERIFY(material->shininess.isDefault());
+    }
+
+    void typedTextGoesToNoOtherValue()
+    {
+        const Ref<SoCoordinate3> points;
+        const float values[3][3] = {{0, 0, 0}, {1, 1, 1}, {2, 2, 2}};
+        points->point.setValues(0, 3, values);
+        MainWindow window;
+        window.show();
+        window.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&window));
+        window.panel()->setNode(points);
+        auto *const table = window.panel()->findChild<HbMFieldTable *>();
+        table->addRow();
+        QLineEdit *const edit = openCell(table, 3, 0);
+        retype(edit, "77");
+        QCoreApplication::processEvents();
+        QTest::keyClick(edit, Qt::Key_Z, Qt::ControlModifier);
+        QCOMPARE(written(points->point), "0 0 0, 0 0 0, 1 1 1, 2 2 2");
+        QVERIFY(!table->cellWidget(3, 0)); // the text was committed first
+        openCell(table, 2, 0);
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_7);
+        points->point.deleteValues(0, 1);
+        QCoreApplication::processEvents();
+        QVERIFY(!table->cellWidget(2, 0) && window.messages().size() == 1);
+        QCOMPARE(written(points->point), "0 0 0, 1 1 1, 2 2 2");
+    }
+
+    void refusedValuesAreToldAndPutBack()
+    {
+        const char *const cases[][4] = {
+            // with a "!" where something was refused
+            {"UShort", "0x1f", "5.\n1e2\n-1\n70000", "0x5, 0x64, 0x0, 0x0!"},
+            {"Vec2s", "1 2", "0x1f\t1.5", "31 2!"},
+            {"Vec3f", "1 2 3", "1e39\t0x10\t4", "1 2 4!"},
+            {"Color", "1 0 0", "1.5\t0.5", "1 0.5 0!"},
+            {"Float", "1, 2", "3\n\n0.123456789\t4\n", "3, 0.12345679!"},
+            {"Bool", "TRUE, TRUE", "maybe\n0", "TRUE, FALSE!"},
+            {"Vec3d", "1 2 3", "typed 4 5", "1 2 3!"},
+        };
+        for (const auto &[name, held, entered, result] : cases) {
+            const Ref<SoNode> odd(nodeOf(name, QByteArray(" value [ ") + held + " ]"));
+            auto &field = static_cast<SoMField &>(*odd->getField("value"));
+            const auto before = FieldRows::copy(field, 0, field.getNum());
+            m_panel->setNode(odd);
+            table()->setCurrentCell(0, field.isOfType(SoMFColor::getClassTypeId()));
+            QApplication::clipboard()->setText(entered);
+            if (QByteArray(entered).startsWith("typed "))
+                type(table(), 0, 0, entered + 6);
+            else
+                QTest::keyClick(table(), Qt::Key_V, Qt::ControlModifier);
+            SbString now;
+            field.get(now);
+            const QString told = std::exchange(m_messages, {}).isEmpty() ? "" : "!";
+            QCOMPARE(QString(now.getString()).remove('[').remove(']').simplified() + told, result);
+            m_stack->setIndex(0);
+            QVERIFY2(FieldRows::areSame(field, *before), entered);
+        }
     }
 
     void undoOfRowsThatAreGoneDoesNothing()
@@ -205,6 +280,18 @@ private Q_SLOTS:
             press(Qt::Key_V);
         }
         QVERIFY(m_messages.size() == 2 && saved(copies) == before);
+        QTest::keyClick(editor, Qt::Key_End);
+        QCOMPARE(table()->currentRow(), 2);
+        QTest::keyClick(editor, Qt::Key_Home);
+        QTest::keyClick(editor, Qt::Key_Return); // opens the grid, which follows
+        auto *const first = editor->findChild<QFrame *>("m_popupFrame")->findChild<QLineEdit *>();
+        const QString shown = first->text();
+        QTest::keyClick(first, Qt::Key_5);
+        QCOMPARE(copies->matrix[0][0][0], 5.0f);
+        m_stack->undo();
+        copies->matrix.setNum(2);
+        QCoreApplication::processEvents();
+        QVERIFY(first->text() == shown && table()->rowCount() == 2);
     }
 
     void onlyTheCurrentCellHoldsAnItem()
@@ -252,14 +339,9 @@ private Q_SLOTS:
             if (!types[i].canCreateInstance())
                 continue;
             const QByteArray name = types[i].getName().getString();
-            const QByteArray text = "#Inventor V2.1 ascii\nOdd { fields [ " + name + " value ] }";
-            SoInput input;
-            input.setBuffer(text.constData(), size_t(text.size()));
-            SoNode *node = nullptr;
-            QVERIFY(SoDB::read(&input, node) && node);
-            const Ref<SoNode> odd(node);
-            m_panel->setNode(node);
-            auto *const field = static_cast<SoMField *>(node->getField("value"));
+            const Ref<SoNode> odd(nodeOf(name.mid(2)));
+            m_panel->setNode(odd);
+            auto *const field = static_cast<SoMField *>(odd->getField("value"));
             const QByteArray type = field->getTypeId().getName().getString() + 2; // not of an alias
             const QString editor = typed.contains(type) ? "HbMF" + type + "Widget" : "HbMFDefaultFieldWidget";
             QVERIFY2(m_panel->findChild<QFrame *>(editor), name.constData());
@@ -274,6 +356,16 @@ private Q_SLOTS:
 
 private:
     HbMFieldTable *table() { return m_panel->findChild<HbMFieldTable *>(); }
+
+    /// A node with one field, of the class "SoMF" + @p type.
+    static SoNode *nodeOf(const QByteArray &type, const QByteArray &values = {})
+    {
+        const QByteArray text = "#Inventor V2.1 ascii\nOdd { fields [ MF" + type + " value ]" + values + " }";
+        SoInput input;
+        input.setBuffer(text.constData(), size_t(text.size()));
+        SoNode *node = nullptr;
+        return SoDB::read(&input, node) ? node : nullptr;
+    }
 
     void run(const QString &command)
     {

@@ -3,16 +3,6 @@
 
 #include "PanelFixture.h"
 
-#include <HbFieldEditors.h>
-
-#include <QCheckBox>
-#include <QColorDialog>
-#include <QComboBox>
-#include <QPushButton>
-#include <QSpinBox>
-#include <QTimer>
-
-#include <Inventor/SoDB.h>
 #include <Inventor/fields/SoFields.h>
 #include <Inventor/nodes/SoCylinder.h>
 #include <Inventor/nodes/SoDirectionalLight.h>
@@ -22,7 +12,6 @@
 #include <Inventor/nodes/SoTransform.h>
 
 #include <cmath>
-#include <cstring>
 
 /// Values of all kinds through the panel: what an edit records, and that it is taken back to the bit.
 class TestValues : public PanelFixture
@@ -32,31 +21,19 @@ class TestValues : public PanelFixture
 private Q_SLOTS:
     void everyTypeHasItsEditor()
     {
-        const QByteArrayList typed{"BitMask", "Bool",   "Box3s", "Color", "Enum",     "Float", "Image",
-                                   "Int32",   "Matrix", "Name",  "Plane", "Rotation", "Short", "String",
-                                   "UInt32",  "UShort", "Vec2f", "Vec2s", "Vec3f",    "Vec4f"};
-        SoTypeList types;
-        SoType::getAllDerivedFrom(SoSField::getClassTypeId(), types);
-        int seen = 0;
-        for (int i = 0; i < types.getLength(); ++i) {
-            if (!types[i].canCreateInstance())
-                continue;
-            show(QByteArray("SFTYPE value").replace("SFTYPE", types[i].getName().getString()));
-            const QByteArray type = field<SoField>()->getTypeId().getName().getString() + 2; // not of an alias
-            // a node that a file describes has enumerations without names
-            const bool isTyped = typed.contains(type) && type != "BitMask" && type != "Enum";
-            const QString editor = isTyped ? QString("HbSF%1Widget").arg(QString(type)) : QString("HbSFLineWidget");
-            QVERIFY2(m_panel->findChild<QFrame *>(editor), type.constData());
-            seen += isTyped ? 1 : 0;
+        for (const char *const type :
+             {"Bool", "Box3s", "Color", "Float", "Image", "Int32", "Matrix", "Name", "Plane", "Rotation", "Short",
+              "String", "UInt32", "UShort", "Vec2f", "Vec2s", "Vec3f", "Vec4f"}) {
+            show("SF" + QByteArray(type) + " value");
+            QVERIFY2(m_panel->findChild<QFrame *>(QString("HbSF%1Widget").arg(type)), type);
         }
-        QVERIFY(seen >= typed.size() - 2);
     }
 
     void enumerationWithoutNamesIsEditedAsText()
     {
         show("SFEnum value");
         auto *const line = m_panel->findChild<QLineEdit *>("lineEdit");
-        commit(line, "5");
+        enter(line, "5");
         QCOMPARE(field<SoSFEnum>()->getValue(), 5);
         QCOMPARE(m_stack->count(), 1);
     }
@@ -69,13 +46,11 @@ private Q_SLOTS:
         node->rotation.setValue(SbVec3f(1, 2, 3), 1.2345678f);
         const SbRotation turned = node->rotation.getValue();
         m_panel->setNode(node);
-        commit(edits("translation").at(1), "7");
-        QCOMPARE(node->translation.getValue()[1], 7.0f);
-        QCOMPARE(bits(node->translation.getValue()[0]), bits(value[0]));
-        QCOMPARE(bits(node->translation.getValue()[2]), bits(value[2]));
-        commit(edits("rotation").at(0), edits("rotation").at(0)->text()); // typed again as it was
+        enter(edits("translation").at(1), "7");
+        QVERIFY(node->translation.getValue() == SbVec3f(value[0], 7, value[2]));
+        enter(edits("rotation").at(0), edits("rotation").at(0)->text()); // typed again as it was
         QVERIFY(node->rotation.getValue() == turned && m_stack->count() == 1);
-        commit(edits("rotation").at(3), "2");
+        enter(edits("rotation").at(3), "2");
         SbVec3f axis;
         float radians;
         node->rotation.getValue(axis, radians);
@@ -98,10 +73,10 @@ private Q_SLOTS:
         QTest::keyClick(element, Qt::Key_Escape);
         QVERIFY(!element->isVisible() && m_stack->count() == 0);
         m_panel->findChild<QPushButton *>("m_editButton")->click();
-        commit(element, "5");
-        QCOMPARE(node->matrix.getValue()[0][2], 5.0f);
-
-        QCOMPARE(bits(node->matrix.getValue()[3][0]), bits(value[3][0]));
+        enter(element, "5");
+        SbMatrix edited = value;
+        edited[0][2] = 5;
+        QVERIFY(node->matrix.getValue() == edited);
         m_stack->undo();
         QVERIFY(node->matrix.getValue() == value);
     }
@@ -182,10 +157,10 @@ private Q_SLOTS:
         *field<SoSFVec3d>() = value;
         QCoreApplication::processEvents();
         auto *const line = m_panel->findChild<QLineEdit *>("lineEdit");
-        commit(line, line->text()); // its text tells less than the value
+        enter(line, line->text()); // its text tells less than the value
         QVERIFY(field<SoSFVec3d>()->getValue() == value && m_stack->count() == 0);
         Complaints::expect("Coin");
-        commit(line, "4,5,6"); // the parser stores the 4 and gives up
+        enter(line, "4,5,6"); // the parser stores the 4 and gives up
         QVERIFY(field<SoSFVec3d>()->getValue() == value && m_stack->count() == 0);
         QCOMPARE(m_messages.size(), 1);
     }
@@ -196,11 +171,7 @@ private Q_SLOTS:
         light->color.setValue(0.1f, 1 / 3.0f, 1);
         const SbColor before = light->color.getValue();
         m_panel->setNode(light);
-        QTimer::singleShot(0, [] {
-            auto *const dialog = qobject_cast<QColorDialog *>(QApplication::activeModalWidget());
-            dialog->setCurrentColor(Qt::red);
-            dialog->accept();
-        });
+        onceOpen([](QColorDialog &dialog) { dialog.setCurrentColor(Qt::red), dialog.accept(); });
         m_panel->findChild<QPushButton *>("m_colorDisp")->click();
         QVERIFY(light->color.getValue() == SbColor(1, 0, 0) && m_stack->count() == 1);
         m_stack->undo();
@@ -215,7 +186,7 @@ private Q_SLOTS:
         const QByteArray before = saved(texture);
         m_panel->setNode(texture);
         Complaints::expect("SoTexture2|SbImage");
-        commit(edits("filename").at(0), "nowhere.png");
+        enter(edits("filename").at(0), "nowhere.png");
         const QByteArray after = saved(texture); // without the image
         m_stack->undo();
         QCOMPARE(saved(texture), before);
@@ -237,25 +208,7 @@ private:
     }
     template <class Field> Field *field() { return static_cast<Field *>((*m_odd)->getField("value")); }
 
-    QList<QLineEdit *> edits(const char *field)
-    {
-        for (QFrame *const row : m_panel->findChildren<QFrame *>()) {
-            if (row->accessibleName().endsWith(QLatin1Char('.') + QString::fromLatin1(field)))
-                return row->findChildren<QLineEdit *>();
-        }
-        return {};
-    }
-    static void commit(QLineEdit *edit, const QString &text)
-    {
-        retype(edit, text);
-        QTest::keyClick(edit, Qt::Key_Return);
-    }
-    static quint32 bits(float number)
-    {
-        quint32 bits;
-        std::memcpy(&bits, &number, sizeof bits);
-        return bits;
-    }
+    QList<QLineEdit *> edits(const char *field) { return m_panel->editorOf(field)->findChildren<QLineEdit *>(); }
 
     std::unique_ptr<Ref<SoNode>> m_odd;
 };

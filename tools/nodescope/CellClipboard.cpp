@@ -17,11 +17,60 @@
 #include <Inventor/SbMatrix.h>
 #include <Inventor/fields/SoMFMatrix.h>
 #include <Inventor/fields/SoMFName.h>
+#include <Inventor/fields/SoMFPlane.h>
+#include <Inventor/fields/SoMFRotation.h>
 #include <Inventor/fields/SoMFString.h>
+
+#include <algorithm>
+#include <cmath>
+#include <vector>
 
 namespace
 {
 constexpr QLatin1Char space(' ');
+
+/// The numbers of which a text consists, none if there is anything else in it.
+std::vector<double> numbersOf(const QString &text)
+{
+    std::vector<double> numbers;
+    const QStringList words = text.simplified().split(space);
+    for (const QString &word : words) {
+        bool isNumber = false;
+        double number = word.toDouble(&isNumber);
+        if (!isNumber)
+            number = double(word.toLongLong(&isNumber, 0)); // in hexadecimal digits
+        if (!isNumber)
+            return {};
+        numbers.push_back(number);
+    }
+    return numbers;
+}
+
+bool areWhole(const std::vector<double> &numbers)
+{
+    constexpr double most = 9e15; // that a double tells apart
+    return !numbers.empty() && std::all_of(numbers.begin(), numbers.end(), [](double number) {
+        return std::abs(number) < most && std::floor(number) == number;
+    });
+}
+
+/// As every editor of whole numbers reads them, where a spreadsheet may have written "5.00" or "1e3".
+QString inDigits(const std::vector<double> &numbers)
+{
+    QStringList words;
+    for (const double number : numbers)
+        words += QString::number(static_cast<qint64>(number));
+    return words.join(space);
+}
+
+/// Whether a text of six digits may tell both, as it does of a number in single precision.
+bool isRounded(double exact, double rounded)
+{
+    constexpr double precision = 1e-5;
+    constexpr double smallest = 1e-37;
+    return exact == rounded || (std::isnan(exact) && std::isnan(rounded))
+        || std::abs(exact - rounded) <= precision * std::abs(exact) + smallest;
+}
 } // namespace
 
 int componentOf(const QTableWidget &table, int column)
@@ -67,19 +116,44 @@ void CellClipboard::copy() const
     QGuiApplication::clipboard()->setText(CellText::join(cells));
 }
 
-/// Whether a cell takes this text; what is no number would count as 0 there.
-bool CellClipboard::accepts(const QString &shown, const QString &text) const
+bool CellClipboard::isOfTexts() const
 {
     const SoMField &field = *m_widget.editedField();
-    if (field.isOfType(SoMFString::getClassTypeId()) || field.isOfType(SoMFName::getClassTypeId()))
+    return field.isOfType(SoMFString::getClassTypeId()) || field.isOfType(SoMFName::getClassTypeId());
+}
+
+/// Whether what a cell shows is what was written to it, as far as it tells.
+bool CellClipboard::isMeant(const QString &shown, const QString &text, const std::vector<double> &numbers) const
+{
+    const SoMField &field = *m_widget.editedField();
+    if (field.isOfType(SoMFName::getClassTypeId()))
+        return shown == text || shown == QLatin1Char('"') + text + QLatin1Char('"');
+    const bool isNormalised
+        = field.isOfType(SoMFRotation::getClassTypeId()) || field.isOfType(SoMFPlane::getClassTypeId());
+    const std::vector<double> held = isOfTexts() || isNormalised ? std::vector<double>() : numbersOf(shown);
+    if (held.empty())
         return true;
-    bool wasNumber = false;
-    bool isNumber = false;
-    bool isInteger = false;
-    shown.toDouble(&wasNumber);
-    text.toDouble(&isNumber);
-    text.toLongLong(&isInteger, 0);
-    return isNumber || isInteger || !wasNumber;
+    return FieldRows::areWhole(field) ? held == numbers
+                                      : std::equal(numbers.begin(), numbers.end(), held.begin(), held.end(), isRounded);
+}
+
+/// Decides by the result, since editors and Coin's parsers refuse in silence, or take the half of it.
+bool CellClipboard::writeCell(int row, int column, const QString &text) const
+{
+    SoMField &field = *m_widget.editedField();
+    const QString shown = m_widget.getFieldValue(row, column);
+    if (shown == text) // else with the bits that its text does not tell
+        return true;
+    const std::vector<double> numbers = isOfTexts() ? std::vector<double>() : numbersOf(text);
+    if (!isOfTexts() && numbers.empty() && !numbersOf(shown).empty())
+        return false; // some editors would make it 0
+    const auto before = FieldRows::copy(field, row, 1);
+    field.setDefault(TRUE); // until it is written: it is silent
+    m_widget.set1Value(row, column, FieldRows::areWhole(field) && areWhole(numbers) ? inDigits(numbers) : text);
+    if (!field.isDefault() && isMeant(m_widget.getFieldValue(row, column), text, numbers))
+        return true;
+    FieldRows::replace(field, row, 1, *before);
+    return false;
 }
 
 bool CellClipboard::writeMatrix(int row, const QStringList &numbers) const
@@ -112,21 +186,29 @@ CellClipboard::Taken CellClipboard::write(const Cells &cells, int top) const
             ++(writeMatrix(row, cells[line].join(space).simplified().split(space)) ? taken : refused);
             continue;
         }
-        for (int i = 0; i < cells[line].size() && left + i < columns; ++i) {
+        for (int i = 0; i < cells[line].size(); ++i) {
             const QString &text = cells[line][i];
-            const QString shown = m_widget.getFieldValue(row, left + i);
-            const bool isAccepted = accepts(shown, text);
-            ++(isAccepted ? taken : refused);
-            if (isAccepted && text != shown)
-                m_widget.set1Value(row, left + i, text);
+            const bool isBeyond = left + i >= columns;
+            if (!isBeyond || !text.isEmpty())
+                ++(!isBeyond && writeCell(row, left + i, text) ? taken : refused);
         }
     }
     return taken == 0 ? Taken::Nothing : refused > 0 ? Taken::Some : Taken::All;
 }
 
+/// Without blank lines, which are values among texts only.
+CellClipboard::Cells CellClipboard::read() const
+{
+    Cells cells = CellText::split(QGuiApplication::clipboard()->text());
+    const auto isBlank = [](const QStringList &line) { return line.join(QString()).trimmed().isEmpty(); };
+    if (!isOfTexts())
+        cells.erase(std::remove_if(cells.begin(), cells.end(), isBlank), cells.end());
+    return cells;
+}
+
 CellClipboard::Pasted CellClipboard::paste() const
 {
-    const Cells cells = CellText::split(QGuiApplication::clipboard()->text());
+    const Cells cells = read();
     SoMField &field = *m_widget.editedField();
     const int top = qBound(0, m_table.currentRow(), field.getNum());
     const int count = static_cast<int>(cells.size());

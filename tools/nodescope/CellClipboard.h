@@ -45,9 +45,12 @@ private:
     using Cells = QVector<QStringList>;
     enum class Taken { Nothing, Some, All };
 
+    Cells read() const;
     Taken write(const Cells &cells, int top) const;
     bool isOfMatrices() const;
-    bool accepts(const QString &shown, const QString &text) const;
+    bool isOfTexts() const;
+    bool writeCell(int row, int column, const QString &text) const;
+    bool isMeant(const QString &shown, const QString &text, const std::vector<double> &numbers) const;
     bool writeMatrix(int row, const QStringList &numbers) const;
 
     HbMFieldWidget &m_widget;

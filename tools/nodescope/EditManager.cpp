@@ -122,7 +122,12 @@ void EditManager::edit(const FieldSnapshot &before, const std::function<void()> 
         before.restore(*m_field);
     refresh(); // at once, so that an edit that reports twice is heard once
     if (!isAccepted)
-        Q_EMIT message(tr("%1 does not accept what was entered.").arg(FieldText::qualifiedName(*m_field)));
+        tellRefused();
+}
+
+void EditManager::tellRefused()
+{
+    Q_EMIT message(tr("%1 does not accept what was entered.").arg(FieldText::qualifiedName(*m_field)));
 }
 
 void EditManager::record(const FieldSnapshot &before, int series, const std::vector<FieldState> &images)

@@ -68,6 +68,7 @@ protected:
     HbFieldEditors *editor() const { return m_editor; }
     SoField *field() const { return m_field; }
     QUndoStack *stack() const { return m_stack; }
+    void tellRefused();
 
 private:
     bool refuse(const FieldSnapshot &before);

@@ -68,8 +68,7 @@ void FieldPanel::setNode(SoNode *node)
         followAll();
         return;
     }
-    for (FieldRow *const row : m_rows)
-        row->finish();
+    finish();
     const std::shared_ptr<SoNode> previous = std::exchange(m_node, coinRef(node)); // until its rows let go
     m_observer->watch(node);
     const std::vector<SoField *> fields = fieldsOf(node);
@@ -77,6 +76,12 @@ void FieldPanel::setNode(SoNode *node)
     if (!isSameClass || !reuse(fields))
         rebuild(fields);
     showTitle();
+}
+
+void FieldPanel::finish()
+{
+    for (FieldRow *const row : m_rows)
+        row->finish();
 }
 
 /// Classes read from a file may differ in the fields of their nodes.

@@ -35,6 +35,8 @@ public:
     /// Shows @p node and keeps it alive while it is shown; null shows nothing. What was being typed for the
     /// node before is committed to it.
     void setNode(SoNode *node);
+    /// Commits what is being typed or dragged.
+    void finish();
     /// The editor of the shown node's field of this name; null where it has no such field.
     QWidget *editorOf(const QString &fieldName) const;
 

@@ -7,9 +7,11 @@
 #include "EditorTable.h"
 #include "FieldText.h"
 #include "TableManager.h"
+#include "UndoKeys.h"
 
 #include <HbFieldEditors.h>
 #include <HbRangeComponent.h>
+#include <HbTablePopupLineEdit.h>
 
 #include <QCoreApplication>
 #include <QKeyEvent>
@@ -185,7 +187,8 @@ void FieldRow::follow()
 bool FieldRow::isBusy() const
 {
     return m_manager->isHeld() || std::any_of(m_edits.begin(), m_edits.end(), [](const QLineEdit *edit) {
-               return edit->isModified() && edit->isVisible();
+               const bool isCommitted = qobject_cast<const HbTablePopupLineEdit *>(edit); // with every keystroke
+               return edit->isModified() && edit->isVisible() && !isCommitted;
            });
 }
 
@@ -246,11 +249,9 @@ bool FieldRow::eventFilter(QObject *watched, QEvent *event)
 
 bool FieldRow::handleKey(const QLineEdit &edit, QKeyEvent &event)
 {
-    const bool isAsked = event.type() == QEvent::ShortcutOverride;
-    if (isAsked && (event.matches(QKeySequence::Undo) || event.matches(QKeySequence::Redo))) {
-        event.ignore(); // not the edit's own undo: the application's
+    if (leaveToApplication(event))
         return true;
-    }
+    const bool isAsked = event.type() == QEvent::ShortcutOverride;
     const bool isInPopup = edit.window() != m_editor->window();
     if (event.key() == Qt::Key_Escape && isInPopup && !isAsked)
         refresh(); // and the popup closes

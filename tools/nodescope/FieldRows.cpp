@@ -139,6 +139,16 @@ bool FieldRows::areSame(const SoMField &first, const SoMField &second)
     return FieldSnapshot(first).isSameValue(FieldSnapshot(second));
 }
 
+bool FieldRows::areWhole(const SoMField &field)
+{
+    bool are = false;
+    visitAs(Vectors(), field,
+            [&](const auto &typed) { are = std::is_integral_v<std::decay_t<decltype((*typed.getValues(0))[0])>>; });
+    visitAs(Others(), field,
+            [&](const auto &typed) { are = std::is_integral_v<std::decay_t<decltype(*typed.getValues(0))>>; });
+    return are;
+}
+
 bool FieldRows::swapColumns(SoMField &field, int first, int second)
 {
     bool done = false;

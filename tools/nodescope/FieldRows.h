@@ -18,6 +18,8 @@ std::shared_ptr<SoMField> zeros(const SoMField &like, int count);
 /// Puts @p values in the place of the @p count values from @p row on; notifies once.
 void replace(SoMField &field, int row, int count, const SoMField &values);
 bool areSame(const SoMField &first, const SoMField &second);
+/// Whether the values consist of whole numbers.
+bool areWhole(const SoMField &field);
 
 /// Exchanges two components in every value; false where the values have no such components.
 bool swapColumns(SoMField &field, int first, int second);

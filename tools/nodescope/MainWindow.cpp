@@ -207,6 +207,7 @@ void MainWindow::finishEditing()
     const auto fields = findChildren<PluginField *>();
     for (PluginField *field : fields)
         field->finish();
+    m_panel->finish();
     QWidget *editor = focusWidget();
     if (!editor || !m_editors->isAncestorOf(editor))
         return;

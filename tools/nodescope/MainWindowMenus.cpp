@@ -41,13 +41,19 @@ void MainWindow::createFileMenu()
 void MainWindow::createEditMenu()
 {
     QMenu *menu = menuBar()->addMenu(tr("&Edit"));
-    QAction *undo = m_document->undoStack()->createUndoAction(this, tr("&Undo"));
-    undo->setShortcuts(QKeySequence::Undo);
-    undo->setObjectName(QStringLiteral("undo"));
-    QAction *redo = m_document->undoStack()->createRedoAction(this, tr("&Redo"));
-    redo->setShortcuts(QKeySequence::Redo);
-    redo->setObjectName(QStringLiteral("redo"));
-    menu->addActions({undo, redo});
+    QUndoStack *stack = m_document->undoStack();
+    const auto add = [&](QAction *action, const char *name, QKeySequence::StandardKey key, void (QUndoStack::*move)()) {
+        action->setShortcuts(key);
+        action->setObjectName(QLatin1String(name));
+        action->disconnect(stack);
+        connect(action, &QAction::triggered, this, [this, stack, move] {
+            finishEditing(); // a text that is being typed is a step too, the last one
+            (stack->*move)();
+        });
+        menu->addAction(action);
+    };
+    add(stack->createUndoAction(this, tr("&Undo")), "undo", QKeySequence::Undo, &QUndoStack::undo);
+    add(stack->createRedoAction(this, tr("&Redo")), "redo", QKeySequence::Redo, &QUndoStack::redo);
 }
 
 void MainWindow::createViewMenu()

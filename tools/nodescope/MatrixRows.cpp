@@ -7,6 +7,7 @@
 #include <HbMFieldTable.h>
 #include <HbTablePopupWidget.h>
 
+#include <QHeaderView>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QMouseEvent>
@@ -17,6 +18,39 @@ MatrixRows::MatrixRows(HbTablePopupWidget &editor, HbMFieldTable &table, HbField
     editor.setFocusPolicy(Qt::StrongFocus);
     editor.installEventFilter(this);
     table.viewport()->installEventFilter(this);
+}
+
+/// The row to which a key leads, which may be none of the table's; nothing for other keys.
+std::optional<int> MatrixRows::target(int key) const
+{
+    const int current = m_table->currentRow();
+    const int last = m_table->rowCount() - 1;
+    const int page = qMax(1, m_table->viewport()->height() / m_table->verticalHeader()->defaultSectionSize() - 1);
+    switch (key) {
+    case Qt::Key_Up:
+        return current - 1;
+    case Qt::Key_Down:
+        return current + 1;
+    case Qt::Key_PageUp:
+        return qMax(current - page, 0);
+    case Qt::Key_PageDown:
+        return qMin(current + page, last);
+    case Qt::Key_Home:
+        return 0;
+    case Qt::Key_End:
+        return last;
+    default:
+        return {};
+    }
+}
+
+bool MatrixRows::moveTo(int row)
+{
+    if (m_anchor >= 0)
+        endSelection();
+    if (row >= 0 && row < m_table->rowCount())
+        m_table->setCurrentCell(row, 0);
+    return true;
 }
 
 bool MatrixRows::extendTo(int row)
@@ -39,6 +73,14 @@ void MatrixRows::endSelection()
         return;
     m_table->clearSelection();
     m_table->setSelectionMode(QAbstractItemView::NoSelection);
+}
+
+/// The first one of a table is current then.
+void MatrixRows::addRow()
+{
+    m_table->addRow();
+    if (m_table && m_table->currentRow() < 0)
+        m_table->setCurrentCell(0, 0);
 }
 
 void MatrixRows::removeRows()
@@ -67,14 +109,11 @@ void MatrixRows::openGrid()
 
 bool MatrixRows::press(const QKeyEvent &key)
 {
-    const bool isShifted = key.modifiers() & Qt::ShiftModifier;
+    if (const auto row = target(key.key()))
+        return key.modifiers() & Qt::ShiftModifier ? extendTo(*row) : moveTo(*row);
     switch (key.key()) {
-    case Qt::Key_Up:
-        return isShifted && extendTo(m_table->currentRow() - 1);
-    case Qt::Key_Down:
-        return isShifted && extendTo(m_table->currentRow() + 1);
     case Qt::Key_Plus:
-        m_table->addRow();
+        addRow();
         return true;
     case Qt::Key_Minus:
     case Qt::Key_Delete:
@@ -92,8 +131,11 @@ bool MatrixRows::press(const QKeyEvent &key)
 
 bool MatrixRows::click(const QMouseEvent &press)
 {
-    if (!(press.modifiers() & Qt::ShiftModifier))
+    if (!(press.modifiers() & Qt::ShiftModifier)) {
+        if (m_anchor >= 0)
+            endSelection();
         return false;
+    }
     m_editor.setFocus(Qt::MouseFocusReason);
     return extendTo(m_table->rowAt(press.pos().y()));
 }

@@ -9,6 +9,8 @@
 #include <QObject>
 #include <QPointer>
 
+#include <optional>
+
 class HbFieldEditorCommandManager;
 class HbTablePopupWidget;
 class QKeyEvent;
@@ -16,8 +18,8 @@ class QMouseEvent;
 
 /**
  * The keys that other tables know by themselves, for a table of matrices: that one is disabled, and its editor has the
- * keyboard. "+" adds a row, "-" and Delete remove rows, rows are selected while Shift is held, F2 and Return open the
- * grid.
+ * keyboard. "+" adds a row, "-" and Delete remove rows, the arrows, Page Up and Down, Home and End choose a row and,
+ * with Shift, select, F2 and Return open the grid.
  */
 class MatrixRows : public QObject
 {
@@ -30,7 +32,10 @@ public:
 private:
     bool press(const QKeyEvent &key);
     bool click(const QMouseEvent &press);
+    std::optional<int> target(int key) const;
+    bool moveTo(int row);
     bool extendTo(int row);
+    void addRow();
     void removeRows();
     void openGrid();
     void endSelection();

@@ -16,13 +16,12 @@
 
 #include <QHeaderView>
 #include <QKeyEvent>
-#include <QSlider>
 #include <QUndoStack>
 
 #include <Inventor/SbString.h>
 #include <Inventor/fields/SoMField.h>
 
-#include <algorithm>
+#include <utility>
 
 void TableManager::setEditor(HbFieldEditors *editor)
 {
@@ -32,10 +31,12 @@ void TableManager::setEditor(HbFieldEditors *editor)
     if (!m_table || !widget) // of a plug-in, which edits the values in some way of its own
         return;
     connect(m_table, &QTableWidget::currentCellChanged, this, &TableManager::supplyText);
-    connect(stack(), &QUndoStack::indexChanged, this, [this] {
-        if (!isDragging())
-            remember();
-    });
+    connect(stack(), &QUndoStack::indexChanged, this, &TableManager::stackMoved);
+    m_cells.emplace(*m_table);
+    connect(&*m_cells, &CellEditors::changed, this, &TableManager::cellEditorsChanged);
+    connect(&*m_cells, &CellEditors::sliderPressed, this, &TableManager::remember);
+    connect(&*m_cells, &CellEditors::sliderDragged, this, &TableManager::noteDrag);
+    connect(&*m_cells, &CellEditors::sliderStepped, this, &TableManager::sliderStepped);
     m_clipboard.emplace(*widget, *m_table);
     m_table->horizontalHeader()->setHidden(m_table->columnCount() == 1); // it would say "1"
     m_table->installEventFilter(this);
@@ -47,8 +48,6 @@ void TableManager::setEditor(HbFieldEditors *editor)
         popup->installEventFilter(this);
         new MatrixRows(*popup, *m_table, *this);
     }
-    m_cellEditors = m_table->viewport();
-    m_cellEditors->installEventFilter(this);
 }
 
 void TableManager::setField(SoField *field)
@@ -60,13 +59,14 @@ void TableManager::setField(SoField *field)
 
 void TableManager::refresh()
 {
+    dropMisplaced();
     EditManager::refresh();
     if (!m_table)
         return;
     showSomeRows();
     if (m_table->currentRow() < 0 && m_table->rowCount() > 0)
         m_table->setCurrentCell(0, 0);
-    if (!isDragging())
+    if (!m_cells || !m_cells->isDragging())
         remember();
     supplyText();
 }
@@ -86,8 +86,22 @@ void TableManager::showSomeRows()
 
 void TableManager::finish()
 {
-    if (m_table)
+    if (m_cells)
+        m_cells->finish();
+    else if (m_table)
         m_table->finishEditing();
+}
+
+/// Once values came or went, an open editor may be over another value than it was opened for. Whether that is so.
+bool TableManager::dropMisplaced()
+{
+    const int count = rows() ? rows()->getNum() : 0;
+    if (std::exchange(m_count, count) == count)
+        return false;
+    if (m_cells && !m_cells->drop())
+        Q_EMIT message(
+            tr("%1 has got other rows: what was being typed is dropped.").arg(FieldText::qualifiedName(*rows())));
+    return true;
 }
 
 SoMField *TableManager::rows() const
@@ -124,15 +138,20 @@ void TableManager::editRow(int row, std::shared_ptr<SoMField> before, bool wasDe
     const OwnEdit own;
     const WriteWatch watch(*rows());
     write();
+    const bool isAccepted = watch.isWritten();
     const auto after = FieldRows::copy(*rows(), row, 1);
     const bool isSame = FieldRows::areSame(*before, *after);
-    if (!isSame)
+    if (!isSame && isAccepted)
         record({{row, before, after}}, wasDefault, FieldCommand::noSeries);
-    else if (watch.isWritten())
+    else if (!isSame) // stored in part
+        FieldRows::replace(*rows(), row, 1, *before);
+    if (isSame || !isAccepted)
         rows()->setDefault(wasDefault);
     m_rowSeries = FieldCommand::newSeries();
     refresh();
     remember();
+    if (!isAccepted)
+        tellRefused();
 }
 
 void TableManager::mfieldSet1Value(int row, int col, QString text, SbString *previousData)
@@ -140,6 +159,10 @@ void TableManager::mfieldSet1Value(int row, int col, QString text, SbString *pre
     const std::unique_ptr<SbString> dragged(previousData); // its text is rounded; ours is the exact value
     if (!isListening())
         return;
+    if (dropMisplaced()) {
+        refresh();
+        return;
+    }
     const bool isRemembered = dragged && m_rowBefore.row == row;
     editRow(row, isRemembered ? m_rowBefore.before : FieldRows::copy(*rows(), row, 1),
             isRemembered ? m_wasDefault : bool(rows()->isDefault()), [&] { editor()->set1Value(row, col, text); });
@@ -210,40 +233,47 @@ void TableManager::remember()
     if (!rows())
         return;
     m_rowBefore.before = FieldRows::copy(*rows(), m_rowBefore.row, 1);
+    m_dragged = m_rowBefore.before;
     m_wasDefault = rows()->isDefault();
 }
 
-/// Watches the slider of a cell editor that was opened, and freshens the cell's text when one is closed.
+void TableManager::noteDrag()
+{
+    if (rows())
+        m_dragged = FieldRows::copy(*rows(), m_rowBefore.row, 1);
+}
+
+/// What is undone in the middle of a drag makes the drag start from there.
+void TableManager::stackMoved()
+{
+    if (!rows())
+        return;
+    dropMisplaced();
+    if (!m_cells->isDragging() || !FieldRows::areSame(*m_dragged, *FieldRows::copy(*rows(), m_rowBefore.row, 1)))
+        remember();
+}
+
+/// Also freshens the text of a cell whose editor was closed.
 void TableManager::cellEditorsChanged()
 {
-    const auto sliders = m_table->viewport()->findChildren<QSlider *>();
-    for (const QSlider *const slider : sliders) {
-        connect(slider, &QSlider::sliderPressed, this, &TableManager::remember, Qt::UniqueConnection);
-        connect(slider, &QSlider::valueChanged, this, &TableManager::sliderStepped, Qt::UniqueConnection);
-    }
     remember();
     supplyText();
 }
 
-/// A step by key, wheel or groove, which the editor writes without a command.
-void TableManager::sliderStepped()
+/// The editor has written the step without a command, or shows it only.
+void TableManager::sliderStepped(const QString &unwritten)
 {
-    const auto *const slider = qobject_cast<const QSlider *>(sender());
     const int row = m_rowBefore.row;
-    if (!isListening() || (slider && slider->isSliderDown()) || row < 0 || row >= rows()->getNum())
+    if (!isListening() || row < 0 || row >= rows()->getNum())
         return;
+    const OwnEdit own;
+    if (!unwritten.isEmpty() && mayEdit(nullptr))
+        editor()->set1Value(row, 0, unwritten);
     const auto now = FieldRows::copy(*rows(), row, 1);
     if (FieldRows::areSame(*m_rowBefore.before, *now) || !mayEdit(&m_rowBefore))
         return;
-    const OwnEdit own;
     record({{row, m_rowBefore.before, now}}, m_wasDefault, m_rowSeries);
     remember();
-}
-
-bool TableManager::isDragging() const
-{
-    const auto sliders = m_table ? m_table->viewport()->findChildren<QSlider *>() : QList<QSlider *>();
-    return std::any_of(sliders.begin(), sliders.end(), [](const QSlider *slider) { return slider->isSliderDown(); });
 }
 
 void TableManager::supplyText()
@@ -268,11 +298,6 @@ void TableManager::paste()
 
 bool TableManager::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched == m_cellEditors) {
-        if (event->type() == QEvent::ChildAdded || event->type() == QEvent::ChildRemoved)
-            QMetaObject::invokeMethod(this, &TableManager::cellEditorsChanged, Qt::QueuedConnection);
-        return false;
-    }
     if (watched != m_table && watched != m_keyboard)
         return EditManager::eventFilter(watched, event);
     const bool isKey = event->type() == QEvent::KeyPress || event->type() == QEvent::ShortcutOverride;

@@ -5,6 +5,7 @@
 #define TABLEMANAGER_H
 
 #include "CellClipboard.h"
+#include "CellEditors.h"
 #include "CellSupply.h"
 #include "EditManager.h"
 #include "RowsCommand.h"
@@ -48,20 +49,24 @@ private:
     void replace(int row, int count, std::shared_ptr<SoMField> values);
 
     void showSomeRows();
-    void cellEditorsChanged();
+    bool dropMisplaced();
     void remember();
-    void sliderStepped();
-    bool isDragging() const;
+    void noteDrag();
+    void cellEditorsChanged();
+    void sliderStepped(const QString &unwritten);
+    void stackMoved();
     void supplyText();
 
     void paste();
 
     HbMFieldTable *m_table = nullptr; ///< null in an editor without one
-    QObject *m_cellEditors = nullptr; ///< their parent in the table
     QObject *m_keyboard = nullptr; ///< what has the focus in the table's place
+    std::optional<CellEditors> m_cells;
     std::optional<CellClipboard> m_clipboard;
     std::optional<CellSupply> m_supply;
+    int m_count = 0; ///< of the values, when they were last shown
     RowsChange m_rowBefore{-1, {}, {}}; ///< the current row before a slider in it moves
+    std::shared_ptr<SoMField> m_dragged; ///< what a held slider left there
     bool m_wasDefault = false; ///< then
     int m_rowSeries = 0;
 };
