@@ -8,7 +8,6 @@
 
 #include <Inventor/SbString.h>
 
-
 /// Edits any field of many values as text, where no other editor is made for its type.
 class HARBORAPI_EXPORT HbMFDefaultFieldWidget : public HbMFieldWidget
 {
@@ -32,7 +31,6 @@ public:
 
 private:
     void initClass();
-
 };
 
 #endif

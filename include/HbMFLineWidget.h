@@ -8,7 +8,6 @@
 
 #include <Inventor/SbString.h>
 
-
 /// Edits any field of many values as text in file notation; what does not parse is left to the field's parser.
 class HARBORAPI_EXPORT HbMFLineWidget : public HbMFieldWidget
 {
@@ -32,7 +31,6 @@ public:
 
 private:
     void initClass();
-
 };
 
 #endif

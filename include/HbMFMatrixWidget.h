@@ -6,7 +6,6 @@
 
 #include <HbTablePopupWidget.h>
 
-
 /**
  * Edits an SoMFMatrix in a grid of four by four. Each row of the table shows the text of the whole field.
  *

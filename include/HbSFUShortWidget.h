@@ -10,7 +10,8 @@ class HbRangeComponent;
 class HbUIntSlider;
 
 /// Edits an SoSFUShort with a slider and an edit; hexadecimal, because the field writes its value so.
-/// A negative minimum of the range counts as 0, a negative maximum as the large number of the same bits. a value of more than 16 bits is cut to its low 16.
+/// A negative minimum of the range counts as 0, a negative maximum as the large number of the same bits. A value of
+/// more than 16 bits is cut to its low 16.
 class HARBORAPI_EXPORT HbSFUShortWidget : public HbSFieldWidget
 {
 public:
