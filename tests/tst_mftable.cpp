@@ -14,6 +14,7 @@
 #include <HbMFUInt32Widget.h>
 #include <HbMFUShortWidget.h>
 #include <HbMFieldTable.h>
+#include <HbMFieldTableItemDelegate.h>
 #include <HbRangeComponent.h>
 #include <HbRealSlider.h>
 #include <HbTablePopupLineEdit.h>
@@ -265,6 +266,39 @@ private Q_SLOTS:
             type(3, true);
             QVERIFY(manager.takeLog().contains("set1Value 3 0 7 null"));
         }
+    }
+
+    void editorsOfOtherDelegates()
+    {
+        struct Own : HbMFieldTableItemDelegate {
+            using HbMFieldTableItemDelegate::HbMFieldTableItemDelegate;
+            QWidget *createEditor(QWidget *parent, const QStyleOptionViewItem &, const QModelIndex &) const override
+            {
+                return new QLineEdit(parent); // owned by the view
+            }
+        };
+        RecordingManager manager;
+        Points points(rows(2), &manager);
+        points.m_table->setItemDelegateForColumn(1, new Own(&manager, &points, points.m_table));
+        retype(openCell(points.m_table, 0, 1), "5");
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+        QCoreApplication::processEvents();
+        QVERIFY(manager.takeLog().contains("set1Value 0 1 5 null"));
+        QVERIFY(points.m_table->hasFocus());
+    }
+
+    void fieldThatChangedUnheard()
+    {
+        Floats floats(rows(3, "1"), nobody);
+        QCOMPARE(floats.getCellText(0, 0, 9), "1");
+        floats.field.enableNotify(FALSE);
+        floats.field.set1Value(0, 9);
+        floats.field.setNum(1);
+        floats.m_table->setCurrentCell(2, 0);
+        floats.m_table->addRow(); // behind what there is by now
+        QCOMPARE(floats.m_table->rowCount(), 1);
+        floats.refresh();
+        QCOMPARE(floats.getCellText(0, 0, 9), "9");
     }
 
     void hostAnswersACommit()
