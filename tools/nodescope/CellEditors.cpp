@@ -57,12 +57,16 @@ void CellEditors::sliderMoved()
 
 bool CellEditors::isDragging() const
 {
+    if (!m_table)
+        return false;
     const auto sliders = m_table->viewport()->findChildren<QSlider *>();
     return std::any_of(sliders.begin(), sliders.end(), [](const QSlider *slider) { return slider->isSliderDown(); });
 }
 
 void CellEditors::finish()
 {
+    if (!m_table)
+        return;
     const auto sliders = m_table->viewport()->findChildren<QSlider *>();
     for (QSlider *const slider : sliders)
         slider->setSliderDown(false); // which reports the drag
@@ -71,6 +75,8 @@ void CellEditors::finish()
 
 bool CellEditors::drop()
 {
+    if (!m_table)
+        return true;
     const auto edits = m_table->viewport()->findChildren<QLineEdit *>();
     const bool isTyped = std::any_of(edits.begin(), edits.end(), [](const QLineEdit *e) { return e->isModified(); });
     const auto editors = m_table->viewport()->findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly);

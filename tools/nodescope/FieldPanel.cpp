@@ -32,22 +32,8 @@ std::vector<SoField *> fieldsOf(const SoNode *node)
 } // namespace
 
 FieldPanel::FieldPanel(QUndoStack *stack, QWidget *parent)
-    : QWidget(parent), m_stack(stack), m_observer(new FieldObserver(this)), m_title(new QLabel(this)),
-      m_area(new QScrollArea(this))
+    : TitledArea(parent), m_stack(stack), m_observer(new FieldObserver(this))
 {
-    QFont font = m_title->font();
-    font.setBold(true);
-    m_title->setFont(font);
-    m_title->setContentsMargins(6, 6, 6, 2);
-    m_title->setTextFormat(Qt::PlainText);
-    m_area->setWidgetResizable(true);
-    m_area->setFrameShape(QFrame::NoFrame);
-    m_area->setFocusPolicy(Qt::NoFocus);
-    auto *const layout = new QVBoxLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(0);
-    layout->addWidget(m_title);
-    layout->addWidget(m_area, 1);
     connect(m_observer, &FieldObserver::fieldChanged, this, &FieldPanel::followField);
     connect(m_observer, &FieldObserver::nodeChanged, this, &FieldPanel::followAll);
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget *, QWidget *now) { showFocus(now); });

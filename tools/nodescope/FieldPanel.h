@@ -4,15 +4,13 @@
 #ifndef FIELDPANEL_H
 #define FIELDPANEL_H
 
-#include <QWidget>
+#include "TitledArea.h"
 
 #include <memory>
 #include <vector>
 
 class FieldObserver;
 class FieldRow;
-class QLabel;
-class QScrollArea;
 class QUndoStack;
 class SoField;
 class SoNode;
@@ -23,7 +21,7 @@ class SoNode;
  * Edits become steps of an undo stack. The editors follow the fields whatever changes them, and are kept
  * when another node of the same class is shown, with the scroll position and the focus.
  */
-class FieldPanel : public QWidget
+class FieldPanel : public TitledArea
 {
     Q_OBJECT
 
@@ -58,8 +56,6 @@ private:
     QUndoStack *m_stack;
     std::shared_ptr<SoNode> m_node;
     FieldObserver *m_observer;
-    QLabel *m_title;
-    QScrollArea *m_area;
     std::vector<FieldRow *> m_rows; ///< children of the area's widget
 };
 

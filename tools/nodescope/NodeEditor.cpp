@@ -12,27 +12,13 @@
 #include <QLabel>
 #include <QScopedValueRollback>
 #include <QScrollArea>
-#include <QVBoxLayout>
 
 #include <Inventor/nodes/SoNode.h>
 
 #include <exception>
 
-NodeEditor::NodeEditor(QWidget *parent) : QWidget(parent), m_title(new QLabel(this)), m_area(new QScrollArea(this))
+NodeEditor::NodeEditor(QWidget *parent) : TitledArea(parent)
 {
-    QFont font = m_title->font();
-    font.setBold(true);
-    m_title->setFont(font);
-    m_title->setContentsMargins(6, 6, 6, 2);
-    m_title->setTextFormat(Qt::PlainText);
-    m_area->setWidgetResizable(true);
-    m_area->setFrameShape(QFrame::NoFrame);
-    m_area->setFocusPolicy(Qt::NoFocus);
-    auto *const layout = new QVBoxLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(0);
-    layout->addWidget(m_title);
-    layout->addWidget(m_area, 1);
     hide();
     connect(&m_observer, &FieldObserver::fieldChanged, this, &NodeEditor::follow);
     connect(&m_observer, &FieldObserver::nodeChanged, this, &NodeEditor::follow);

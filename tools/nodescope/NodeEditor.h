@@ -5,6 +5,7 @@
 #define NODEEDITOR_H
 
 #include "FieldObserver.h"
+#include "TitledArea.h"
 
 #include <QFrame>
 #include <QPointer>
@@ -12,8 +13,6 @@
 #include <memory>
 
 class HbEditors;
-class QLabel;
-class QScrollArea;
 class SoNode;
 
 /**
@@ -21,7 +20,7 @@ class SoNode;
  *
  * The editor stays the plug-in's: it is borrowed while its node is selected, and then goes back to its former parent.
  */
-class NodeEditor : public QWidget
+class NodeEditor : public TitledArea
 {
     Q_OBJECT
 
@@ -50,8 +49,6 @@ private:
     bool m_isAsking = false;
     QPointer<QFrame> m_editor;
     QPointer<QWidget> m_formerParent;
-    QLabel *m_title;
-    QScrollArea *m_area;
 };
 
 #endif
