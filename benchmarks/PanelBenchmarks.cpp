@@ -114,7 +114,7 @@ private:
         select(m_first);
         const double seconds = secondsOf(work);
         const QString shown = m_panel.findChild<QLineEdit *>()->text(); // that of the first field
-        if (shown != QString::number(static_cast<double>(m_first->reals[0].getValue())))
+        if (shown.toFloat() != m_first->reals[0].getValue())
             throw std::logic_error("the editor does not follow its field");
         return seconds;
     }

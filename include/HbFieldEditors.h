@@ -38,6 +38,9 @@ public:
     virtual void setValue(int row, const void *data) = 0;
     /// Writes what the editor shows into the field. Safe without a field.
     virtual void applyChanges() = 0;
+
+    /// Whether the field died: from then on the editor reports nothing until the next setField().
+    bool hasLostField() const;
 };
 
 #endif

@@ -24,7 +24,8 @@ class HbNscPluginsManagerDialog;
  *
  * Two preferences, read from the environment or else from the preferences file:
  * NSC_NO_PLUGINS, true unless it is set to false, keeps the manager from looking for plug-ins by itself;
- * NSC_PLUGINS_DIRECTORY is where it looks, "$KRNHOME/$KRNARCH/lib" unless it is set.
+ * NSC_PLUGINS_DIRECTORY is where it looks, "$KRNHOME/$KRNARCH/lib" unless it is set; nowhere where one of these two
+ * variables is not set.
  *
  * Failures are told on Coin's error channels and stop nothing. For the GUI thread.
  */
@@ -48,7 +49,7 @@ public:
      * destructor.
      *
      * What starts with a dot is passed over. Linked directories are not entered. A directory that cannot be read
-     * counts as empty.
+     * counts as empty. One that other users can write is searched with a warning.
      */
     void buildFilesPaths(const SbString &directory);
 
@@ -62,6 +63,14 @@ public:
 
     /// Where plug-ins were looked for; empty if they were not.
     SbString getPluginsPath() const;
+
+    /// Why the last loadPlugin() failed, in the words of the dynamic linker where it refused the library; empty when it
+    /// did not fail.
+    QString getLoadError() const;
+    /// The dialog, which is the manager's own.
+    HbNscPluginsManagerDialog *getDialog() const;
+    /// Whether the directory scan found the library.
+    bool isFound(const QByteArray &path) const;
 
     /// A preference in effect.
     struct Preference {
@@ -80,6 +89,7 @@ private:
     QPointer<HbGUIManagement> management;
     HbNscPluginsManagerDialog *managerDialog = nullptr;
     SbString pluginsPath;
+    QString loadError;
     std::vector<QByteArray> filesPaths;
     std::vector<HbNscPlugins *> plugins; ///< in load order; an entry outlives its plug-in, so only new ones are used
 

@@ -50,6 +50,9 @@ public:
     HbMFieldTable(HbFieldEditorCommandManager *commandManager, HbMFieldWidget *owner, const char *name);
     ~HbMFieldTable() override;
 
+    /// Makes the delegate anew, with no settings; nothing is selected any more.
+    void initClass();
+
     void setCellType(MFTableTypeCell type);
     /// The range of slider editors of integers.
     void setIntEditorRange(int min, int max);
@@ -57,6 +60,9 @@ public:
     void setDoubleEditorRange(double min, double max);
     /// Whether slider editors keep to their range.
     void setBoundedValue(bool bounded);
+
+    /// Gives the table a delegate of the host's, with the cell type and ranges of the one before, which is deleted.
+    void setCellDelegate(HbMFieldTableItemDelegate *delegate);
 
     /// Commits and closes an open cell editor; false if the host deletes the table in answer.
     bool finishEditing();
@@ -92,10 +98,9 @@ protected:
 
     HbMFieldWidget *m_owner;
     QPointer<HbFieldEditorCommandManager> m_commandManager;
-    HbMFieldTableItemDelegate *m_delegate;
+    HbMFieldTableItemDelegate *m_delegate = nullptr;
 
 private:
-    void initClass();
     bool isOpen(const QWidget *editor) const;
     bool isTyping() const;
     void clearTouchedCells();

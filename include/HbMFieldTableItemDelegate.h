@@ -34,6 +34,8 @@ public:
     void setDoubleEditorRange(double min, double max);
     /// False at first.
     void setBoundedValue(bool bounded);
+    /// The cell type and ranges of another.
+    void takeSettings(const HbMFieldTableItemDelegate &other);
 
     /// Fills the cell with the highlight colour in an active view, and writes the text, cut to what fits.
     void paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const override;

@@ -51,7 +51,8 @@ public:
     ~HbMFieldWidget() override;
 
     /// Takes a field that checkField() accepts and shows nothing of it until refresh(). A refused field leaves the
-    /// one before. A field that dies is forgotten, and the table emptied.
+    /// one before. A field that dies is forgotten, and the table emptied: nothing is
+    /// reported from then on until another is set.
     bool setField(SoField *field) override;
     /// Gives the table its rows and shows the ignore flag. Nothing without a field or while disabled.
     void refresh() override;
@@ -75,7 +76,7 @@ public:
     QSpinBox *accessBox() const;
 
 public Q_SLOTS:
-    /// Sets the buttons' tool tips, which are not translated.
+    /// Sets the buttons' tool tips, which are not translated; called at each change of the language.
     virtual void languageChange();
     void ignoreButtonStateChanged();
     /// Writes the field's default into it, even with a command manager; nothing in this class calls it.
@@ -83,14 +84,14 @@ public Q_SLOTS:
 
 public:
     /// The start of getFieldValue(), at least @p limit characters where it has as many. Cells are painted with it.
-    /// Some editors tell the start of a very long text without getFieldValue(): who overrides that for such texts
-    /// overrides this too.
+    /// Editors of this library, not classes derived from them, tell the start of a very long text without
+    /// getFieldValue(); who derives one for such texts may override this too.
     virtual QString getCellText(int row, int col, int limit) const;
 
 protected:
     /// The edited field as an F; null where it is none.
     template <class F> F *fieldAs() const;
-    /// Texts that take long to make; dropped when the field changes and by refresh().
+    /// Texts that take long to make, as long as they are true.
     RowTextCache &textCache() const;
 
     AccessButtonPrivate *m_accessBox;
@@ -113,6 +114,8 @@ private:
     void createButtons();
     void layOut();
     void connectAll();
+
+    friend class HbFieldEditors; // whether the field is lost
 
     std::unique_ptr<FieldWatch> m_field;
     std::unique_ptr<RowTextCache> m_textCache;

@@ -6,12 +6,14 @@
 
 #include <HbGUIManagement.h>
 
+#include <QByteArrayList>
 #include <QObject>
 #include <QPointer>
 
 class HbGUIManager;
 class HbNscPlugins;
 class QTreeWidget;
+class TranslatedTexts;
 
 /**
  * Lists the loaded plug-ins in a window of its own, and loads and removes them there.
@@ -30,6 +32,12 @@ public:
 
     /// Adds a row with the texts of @p plugin, read as Latin-1; a hidden column keeps the library's path.
     void insertPlugin(HbNscPlugins *plugin);
+    /// Adds a row for a library that is not loaded, with the reason. "Remove" takes no more than the row away.
+    void insertFailedPlugin(const QByteArray &path, const QString &reason);
+    /// The libraries of the rows from top to bottom.
+    QByteArrayList getPaths() const;
+    /// The window; it has no parent unless the tool gives it one, and is deleted by this object. Null once it is gone.
+    QWidget *getWindow() const;
 
 public Q_SLOTS:
     /// Lets the user choose a library and loads it.
@@ -44,7 +52,8 @@ protected Q_SLOTS:
 
 private:
     void buildDialog();
-    void addMenuEntry();
+    void addMenuEntry(TranslatedTexts &texts);
+    void addRow(const QStringList &texts, bool isLoaded);
     void repaintTool();
 
     QPointer<HbGUIManagement> management;

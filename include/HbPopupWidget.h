@@ -9,6 +9,7 @@
 #include <vector>
 
 class QGridLayout;
+class TranslatedTexts;
 
 /// Shows a value as a line of text and edits it in a grid of edits that a button opens.
 class HARBORAPI_EXPORT HbPopupWidget : public HbSFLineWidget
@@ -47,6 +48,8 @@ protected:
 private:
     void buildPopup(int rows);
     void buildEdit(QGridLayout *grid, int row, int column);
+
+    TranslatedTexts *m_texts; ///< a child
 };
 
 #endif

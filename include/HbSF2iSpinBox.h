@@ -10,6 +10,7 @@
 
 class QLabel;
 class QSpinBox;
+class TranslatedTexts;
 
 /**
  * Two labelled spin boxes: the base of the editors of integer pairs, of no use alone.
@@ -36,6 +37,9 @@ protected:
 
     std::array<QSpinBox *, 2> m_spins; ///< from left to right
     std::array<QLabel *, 2> m_labels;
+
+private:
+    TranslatedTexts *m_texts; ///< a child
 };
 
 #endif

@@ -10,6 +10,7 @@
 
 class QLabel;
 class QLineEdit;
+class TranslatedTexts;
 
 /// Four labelled edits for floats: the base of the editors of four numbers, of no use alone.
 class HARBORAPI_EXPORT HbSF4fBox : public HbSFieldWidget
@@ -34,6 +35,9 @@ protected:
 
     std::array<QLineEdit *, 4> m_edits; ///< from left to right
     std::array<QLabel *, 4> m_labels;
+
+private:
+    TranslatedTexts *m_texts; ///< a child
 };
 
 #endif

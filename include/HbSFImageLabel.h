@@ -12,7 +12,8 @@
 class HARBORAPI_EXPORT HbSFImageLabel : public QLabel
 {
 public:
-    /// @p width and @p height are the thumbnail's size in pixels.
+    /// @p width and @p height are the thumbnail's size in pixels. A null @p name gives the object name
+    /// "HbSFImageLabel".
     HbSFImageLabel(int width, int height, QWidget *parent, const char *name);
     ~HbSFImageLabel() override;
 

@@ -11,8 +11,9 @@ class QLineEdit;
 /**
  * Edits any field through its text in file notation; what does not parse is left to the field's parser.
  *
- * Built with a label it commits on Return and on leaving, without one at each change of the text. Without
- * a command manager Return is left to the parent: then only leaving the line writes, and without a label nothing does.
+ * Built with a label it commits on Return and on leaving, without one at each change of the text. Without a command
+ * manager, also once that died, Return is left to the parent: then only leaving the line writes, and without a label
+ * nothing does.
  */
 class HARBORAPI_EXPORT HbSFLineWidget : public HbSFieldWidget
 {
@@ -30,7 +31,8 @@ protected:
     QLineEdit *m_lineEdit;
 
 private:
-    void commitDirectly(const char *signal);
+    bool eventFilter(QObject *watched, QEvent *event) override;
+    template <class Signal> void commitDirectly(Signal signal, const char *signature);
 };
 
 #endif

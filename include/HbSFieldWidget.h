@@ -53,7 +53,8 @@ public:
                    Qt::WindowFlags flags);
     ~HbSFieldWidget() override;
 
-    /// Takes any field and shows nothing of it until refresh(). A field that dies is forgotten.
+    /// Takes any field and shows nothing of it until refresh(). A field that dies is forgotten: the editor reports
+    /// nothing from then on until another is set.
     bool setField(SoField *field) override;
     /// Shows the field's ignore flag; subclasses show the value.
     void refresh() override;
@@ -68,7 +69,7 @@ public:
     virtual bool edited();
 
 protected Q_SLOTS:
-    /// Sets the buttons' tool tips, which are not translated.
+    /// Sets the buttons' tool tips, which are not translated; called at each change of the language.
     virtual void languageChange();
     /// Commits the edit.
     virtual void setCommandValue();
@@ -82,6 +83,10 @@ protected Q_SLOTS:
 protected:
     /// The field set by setField(); null without one and after it died.
     SoField *editedField() const;
+
+    /// Tells the manager or, without one, writes the value. Within another commit of this editor, as when a manager's
+    /// refresh() changes a text that commits, nothing happens.
+    void commit();
 
     /// Commits on Return and on leaving the edit.
     void commitOnReturn(QLineEdit *edit);
@@ -112,7 +117,10 @@ private:
     void buildLayout();
     void connectButtons();
 
+    friend class HbFieldEditors; // whether the field is lost
+
     std::unique_ptr<FieldWatch> m_field;
+    bool m_isCommitting = false;
     QPixmap m_defaultIcon;
     QPixmap m_ignoreIcon;
 };

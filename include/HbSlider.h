@@ -20,6 +20,7 @@ class QCheckBox;
 class QHBoxLayout;
 class QLineEdit;
 class QSlider;
+class TranslatedTexts;
 
 /**
  * A check box, a slider and an edit that show one number of a field editor.
@@ -91,9 +92,12 @@ protected:
     void setSliderMinimum(int minimum);
     void setSliderMaximum(int maximum);
     void setSliderRange(int minimum, int maximum);
+    /// Makes previousData anew.
+    void keepPreviousData(const QString &text);
 
+    TranslatedTexts *m_texts; ///< a child
     QLineEdit *edit;
-    std::unique_ptr<SbString> previousData; ///< from a press to its release
+    SbString *previousData = nullptr; ///< from a press to its release; the command manager's from then on
     QHBoxLayout *m_layout;
     int sliderPosition = 0;
     QSlider *slider;
@@ -109,9 +113,12 @@ protected:
     int col;
 
 private:
-    void reportCommand(std::unique_ptr<SbString> previous);
+    void reportCommand(SbString *previous);
+    bool isSilenced() const;
     void reportLive();
     template <class Report> void reportCell(const Report &report);
+
+    std::unique_ptr<SbString> m_unclaimed; ///< previousData that no manager took
 };
 
 #endif

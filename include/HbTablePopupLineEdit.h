@@ -16,7 +16,8 @@ class HARBORAPI_EXPORT HbTablePopupLineEdit : public QLineEdit
     Q_OBJECT
 
 public:
-    /// @p index is the edit's place in the grid, row by row; @p name, when given, the object name.
+    /// @p index is the edit's place in the grid, row by row. A null @p name gives the object name
+    /// "HbTablePopupLineEdit".
     HbTablePopupLineEdit(int index, HbTablePopupWidget *owner, QWidget *parent, const char *name);
     ~HbTablePopupLineEdit() override;
 

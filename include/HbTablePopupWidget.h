@@ -58,6 +58,7 @@ protected:
     std::vector<QString> m_filledTexts; ///< what updatePopupLines() filled in, or was written since
 
 private:
+    QSize popupSize() const;
     bool chooseRow(int row);
 
     bool m_filling = false;

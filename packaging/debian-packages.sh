@@ -9,8 +9,8 @@
 packages_build="g++ cmake ninja-build ccache qt6-base-dev libqt6opengl6-dev libcoin-dev zlib1g-dev"
 packages_run="libgl1-mesa-dri fontconfig fonts-dejavu-core"
 packages_virtual_display="xvfb xauth"
-packages_test="pkg-config $packages_run $packages_virtual_display"
-packages_test_all="qtbase5-dev clang libbenchmark-dev inventor-data"
+packages_test="pkg-config xdotool openbox inventor-data $packages_run $packages_virtual_display"
+packages_test_all="qtbase5-dev clang libbenchmark-dev"
 
 # install_packages PACKAGE...: installs those that are missing; asks neither apt nor the network if none is.
 install_packages() {

@@ -3,27 +3,10 @@
 
 #include "EditorKinds.h"
 
+#include "AllEditors.h"
 #include "TestSupport.h"
 
 #include <HbRangeComponent.h>
-#include <HbSFBoolWidget.h>
-#include <HbSFBox3sWidget.h>
-#include <HbSFColorWidget.h>
-#include <HbSFEnumWidget.h>
-#include <HbSFFloatWidget.h>
-#include <HbSFInt32Widget.h>
-#include <HbSFMatrixWidget.h>
-#include <HbSFNameWidget.h>
-#include <HbSFPlaneWidget.h>
-#include <HbSFRotationWidget.h>
-#include <HbSFShortWidget.h>
-#include <HbSFStringWidget.h>
-#include <HbSFUInt32Widget.h>
-#include <HbSFUShortWidget.h>
-#include <HbSFVec2fWidget.h>
-#include <HbSFVec2sWidget.h>
-#include <HbSFVec3fWidget.h>
-#include <HbSFVec4fWidget.h>
 
 #include <QRandomGenerator>
 

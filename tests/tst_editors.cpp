@@ -3,29 +3,82 @@
 
 #include "TestSupport.h"
 
-#include <HbSFieldWidget.h>
+#include <HbMFColorWidget.h>
+#include <HbMFMatrixWidget.h>
+#include <HbNscPluginsManagerDialog.h>
+#include <HbRangeComponent.h>
+#include <HbSFColorWidget.h>
+#include <HbSFImageWidget.h>
+#include <HbSFLineWidget.h>
+#include <HbSFMatrixWidget.h>
+#include <HbSFUInt32Widget.h>
+#include <HbSFVec2fWidget.h>
+#include <HbSFVec2sWidget.h>
+#include <HbSFVec3fWidget.h>
+#include <HbSFVec4fWidget.h>
+#include <HbSlider.h>
 
+#include <QTranslator>
+
+#include <Inventor/fields/SoSFInt32.h>
 #include <Inventor/nodes/SoCone.h>
+
+#define main undoHost
+#include "examples/undo-host/main.cpp"
+#undef main
 
 namespace
 {
-/// Reaches what is protected, and counts direct writes.
 class Widget : public HbSFieldWidget
 {
 public:
     using HbSFieldWidget::HbSFieldWidget;
-    void applyChanges() override { ++writes; }
-
-    using HbSFieldWidget::editedField;
-    using HbSFieldWidget::setCommandValue;
+    void applyChanges() override { }
     using HbSFieldWidget::setDefaultFieldValue;
-    int writes = 0;
 };
 
-QPushButton *button(const QWidget &widget, const char *name)
+class Tilde : public QTranslator
 {
-    return widget.findChild<QPushButton *>(QLatin1String(name));
-}
+public:
+    bool isEmpty() const override { return false; }
+    QString translate(const char *, const char *text, const char *, int) const override
+    {
+        return QLatin1Char('~') + QString::fromUtf8(text);
+    }
+};
+
+/// One editor of each class that translates something.
+struct Speaking {
+    Speaking()
+    {
+        for (QWidget *const editor : std::initializer_list<QWidget *>{&color, &image, &matrix, &number, &two, &pair,
+                                                                      &three, &four, &colors, &matrices})
+            for (QWidget *const part : editor->findChildren<QWidget *>())
+                parts << part;
+        number.findChild<HbSlider *>()->setValue("0x10"); // which explains itself
+    }
+    QStringList texts() const
+    {
+        QStringList all;
+        for (const QWidget *const part : parts) {
+            const auto *const label = qobject_cast<const QLabel *>(part);
+            all << (label ? label->text() : QString()) << part->toolTip() << part->accessibleName();
+        }
+        return all << colors.findChild<QTableWidget *>()->horizontalHeaderItem(0)->text();
+    }
+
+    HbSFColorWidget color{"", nullptr, nullptr, nullptr, {}};
+    HbSFImageWidget image{"", nullptr, nullptr, nullptr, {}};
+    HbSFMatrixWidget matrix{"", nullptr, nullptr, nullptr, {}};
+    HbSFUInt32Widget number{"", HbRangeComponent(0, 100, false), nullptr, nullptr, nullptr, {}};
+    HbSFVec2fWidget two{"", nullptr, nullptr, nullptr, {}};
+    HbSFVec2sWidget pair{"", nullptr, nullptr, nullptr, {}};
+    HbSFVec3fWidget three{"", nullptr, nullptr, nullptr, {}};
+    HbSFVec4fWidget four{"", nullptr, nullptr, nullptr, {}};
+    HbMFColorWidget colors{"", nullptr, nullptr, nullptr, {}};
+    HbMFMatrixWidget matrices{"", nullptr, nullptr, nullptr, {}};
+    QList<QWidget *> parts;
+};
 } // namespace
 
 /// What every editor shares: commands, the frame of the single-value editors.
@@ -52,25 +105,6 @@ private Q_SLOTS:
         QVERIFY(odd.findChild<QFrame *>(QStringLiteral("m_editionFrame")));
     }
 
-    void managerMayDieFirst()
-    {
-        const Ref<SoCone> cone;
-        cone->height = 7;
-        auto manager = std::make_unique<RecordingManager>();
-        Widget orphan(manager.get(), nullptr, nullptr, {});
-        manager.reset(); // from here on as if there never was one
-        Widget alone(nullptr, nullptr, nullptr, {});
-        for (Widget *const widget : {&alone, &orphan}) {
-            widget->setField(&cone->height);
-            button(*widget, "m_defaultButton")->click();
-            QCOMPARE(cone->height.getValue(), 7.0f);
-        }
-        orphan.setCommandValue();
-        QCOMPARE(orphan.writes, 1);
-        button(orphan, "m_ignoreButton")->click();
-        QVERIFY(cone->height.isIgnored());
-    }
-
     void defaultValueIsWrittenDirectly()
     {
         RecordingManager manager;
@@ -89,17 +123,68 @@ private Q_SLOTS:
         QCOMPARE(loose.getValue(), 3.0f);
     }
 
-    void safeWithoutAField()
+    void commitWithinACommit()
     {
-        Widget widget(nullptr, nullptr, nullptr, {});
-        {
-            const Ref<SoCone> cone;
-            widget.setField(&cone->height);
-        }
-        QCOMPARE(widget.editedField(), nullptr); // it died
-        widget.setCommandValue();
-        widget.setDefaultFieldValue();
-        widget.updateEditor();
+        SoSFInt32 field;
+        RecordingManager manager;
+        HbSFLineWidget line(&manager, nullptr, nullptr, {}); // commits at each change of its text
+        present(line, &field);
+        manager.takeLog();
+        manager.onCommit = [&] {
+            line.applyChanges();
+            field.setValue(field.getValue() + 1); // so that the text is never what was written
+            if (manager.log.size() < 50)
+                line.refresh();
+        };
+        line.findChild<QLineEdit *>()->setText("5");
+        QCOMPARE(manager.takeLog(), QStringList("sfield null"));
+        QCOMPARE(field.getValue(), 6);
+        line.refresh(); // commits what it shows where that is another text, as ever
+        field.setValue(9);
+        line.refresh();
+        QCOMPARE(manager.takeLog(), QStringList("sfield null"));
+    }
+
+    void languages()
+    {
+        Speaking before;
+        const HbNscPluginsManagerDialog dialog(nullptr, nullptr);
+        auto *const host = before.color.findChild<QPushButton *>("m_colorDisp");
+        host->setToolTip("of the host");
+        const QStringList english = before.texts();
+        Tilde tilde;
+        QCoreApplication::installTranslator(&tilde);
+        QCoreApplication::processEvents();
+        Speaking after;
+        QCOMPARE(host->toolTip(), "of the host");
+        host->setToolTip("~Choose a colour");
+        QCOMPARE(before.texts(), after.texts());
+        QVERIFY(before.texts().filter("~").size() > 40);
+        QCOMPARE(dialog.getWindow()->windowTitle(), "~Plug-ins Management");
+        QCoreApplication::removeTranslator(&tilde);
+        QCoreApplication::processEvents();
+        host->setToolTip("of the host");
+        QCOMPARE(before.texts(), english);
+    }
+
+    void exampleHostAfterTheFieldDied()
+    {
+        auto cone = std::make_unique<Ref<SoCone>>();
+        SoSFFloat &height = (*cone)->height;
+        QUndoStack undo;
+        UndoManager manager(height, undo);
+        HbSFFloatWidget editor("height", HbRangeComponent(0.0F, 10.0F, false), &manager, nullptr, nullptr, {});
+        present(editor, &height);
+        manager.serve(&editor);
+        height = 3; // it will follow
+        cone.reset();
+        QCoreApplication::processEvents();
+        editor.findChild<QSlider *>()->setValue(70);
+        enter(editor.findChild<QLineEdit *>(), "5");
+        manager.sfieldSetValue(nullptr);
+        manager.fieldSetDefaultValue();
+        manager.fieldSetIgnored(true);
+        QCOMPARE(undo.count(), 0);
     }
 };
 

@@ -100,18 +100,15 @@ void removeRow(int row)
     rows()->window()->findChild<QPushButton *>("removeButton")->click();
 }
 
-/// Presses "Add" and chooses a file, or none; returns what the file dialog showed.
-QStringList addFile(const fs::path &path)
+/// Presses "Add" and chooses a file, or none.
+void addFile(const fs::path &path)
 {
-    QStringList shown;
     QTimer::singleShot(0, qApp, [&] {
         auto *const chooser = qobject_cast<QFileDialog *>(QApplication::activeModalWidget());
-        shown << chooser->windowTitle() << chooser->directory().path() << chooser->nameFilters();
         chooser->findChild<QLineEdit *>("fileNameEdit")->setText(QFile::decodeName(path.c_str()));
         QMetaObject::invokeMethod(chooser, path.empty() ? "reject" : "accept");
     });
     rows()->window()->findChild<QPushButton *>("addButton")->click();
-    return shown;
 }
 
 HbEditors *editorOf(SoNode *node)
@@ -179,7 +176,6 @@ private Q_SLOTS:
         };
         row("plain", "libNsc_Good.so", good);
         row("link", "libNsc_Good.so", linkTo(PLUGINS "/libtest_plugin.so"));
-        row("without lib and suffix", "Nsc_Good", good);
         row("lib twice", "liblibNsc_lib.so", good);
         row("one character", "N", good);
         row("255 characters", QByteArray(255, 'L'), good);
@@ -189,10 +185,7 @@ private Q_SLOTS:
 
         row("no getInstance", "libNsc_NoGet.so", good, notLocated("9Nsc_NoGet"));
         row("no releaseInstance", "libNsc_NoRelease.so", good, {}, couldNotTerminate);
-        row("no such class", "libNsc_More.so", good, notLocated("8Nsc_More"), couldNotTerminate);
         row("version", "libNsc_Good.so.2.1", good, notLocated("15Nsc_Good.so.2.1"), couldNotTerminate);
-        row("lib thrice", "liblibliblibNsc_lib.so", good, notLocated("16libliblibNsc_lib"), couldNotTerminate);
-        row("suffix twice", "libNsc_Good.so.so", good, notLocated("11Nsc_Good.so"), couldNotTerminate);
         row("no object", "libNsc_Null.so", good, fromManager + "Plugin '@' returned no object");
         row("exception", "libNsc_Throws.so", good, fromManager + "Plugin '@' threw an exception: 100% sure",
             fromManager + "Plugin '@' threw an exception|" + stillInUse);
@@ -200,11 +193,7 @@ private Q_SLOTS:
         const auto refused = [&](const char *title, const Make &make) {
             row(title, "libNsc_Good.so", make, couldNotLoad, couldNotTerminate);
         };
-        refused("text", content("not a library"));
         refused("empty", content({}));
-        refused("only magic", truncatedTo(4));
-        refused("no segments", truncatedTo(64));
-        refused("some segments", truncatedTo(200));
         refused("no data", truncatedTo(4096));
         refused("some data", truncatedTo(20000));
         refused("zeroed tail", [](const fs::path &path) {
@@ -216,7 +205,6 @@ private Q_SLOTS:
         refused("FIFO", [](const fs::path &path) { mkfifo(path.c_str(), 0600); });
         refused("unreadable", [](const fs::path &path) { good(path), fs::permissions(path, fs::perms::none); });
         refused("dangling link", linkTo("nowhere"));
-        refused("looping link", linkTo("libNsc_Good.so"));
         refused("no dependency", copyOf("libtest_plugin_dependent.so"));
         refused("undefined symbol", copyOf("libtest_plugin_undefined.so"));
     }
@@ -254,6 +242,7 @@ private Q_SLOTS:
         }
         const fs::path path = add(m_found / "libNsc_Good.so", good);
         QVERIFY(manager.loadPlugin(path.c_str()));
+        QCOMPARE(manager.getLoadError(), QString());
         manager.unloadPlugin(path.c_str());
         QCOMPARE(takeLog(), released(path));
         HbNscPluginsManagerDialog dialog(nullptr, nullptr);
@@ -305,20 +294,23 @@ private Q_SLOTS:
             QTest::addRow("%s %s", environment.join(' ').constData(), file.simplified().constData())
                 << environment << file << QString(noPlugins) << QString(directory);
         };
-        const auto word = [&](const QByteArray &text, const char *inEnvironment, const char *inFile) {
-            row({text, "/x"}, "", inEnvironment, "environment /x");
-            row({"", "/x"}, "NSC_NO_PLUGINS=" + text, inFile, "environment /x");
-        };
-        for (const char *const text : {"0", "false", "no", "off", "FALSE", "Off"})
-            word(text, "environment false", "file false");
-        for (const char *const text : {"1", "true", "yes", "on", "True"})
-            word(text, "environment true", "file true");
-        for (const char *const text : {"", "2", "falsch"})
-            word(text, "default true", "default true");
+        row({"FALSE", "/x"}, "", "environment false", "environment /x");
+        row({"on", "/x"}, "", "environment true", "environment /x");
+        row({"falsch", "/x"}, "", "default true", "environment /x");
+        for (const auto &[text, word] : {std::pair("0", "file false"),
+                                         {"False", "file false"},
+                                         {"off", "file false"},
+                                         {"no", "file false"},
+                                         {"1", "file true"},
+                                         {"TRUE", "file true"},
+                                         {"Yes", "file true"},
+                                         {"on", "file true"},
+                                         {"2", "default true"}})
+            row({"", "/x"}, QByteArray("NSC_NO_PLUGINS=") + text, word, "environment /x");
 
         const QByteArray key = "NSC_PLUGINS_DIRECTORY=";
-        row({"0"}, "", "environment false", "default $KRNHOME/$KRNARCH/lib");
-        row({"0", "", "/krn"}, "", "environment false", "default /krn/$KRNARCH/lib");
+        row({"0"}, "", "environment false", "default "); // a variable is unset: nowhere
+        row({"0", "", "/krn"}, "", "environment false", "default ");
         row({"0", "", "/krn", "$KRNHOME"}, "", "environment false", "default /krn/$KRNHOME/lib");
         row({"0", "$KRNHOME/${KRNARCH}", "/krn", "x"}, "", "environment false", "environment $KRNHOME/${KRNARCH}");
         row({"0", "$KRNHOME/$KRNARCH/lib", "/krn", "x"}, "", "environment false", "environment /krn/x/lib");
@@ -348,16 +340,74 @@ private Q_SLOTS:
     {
         qputenv("KRNHOME", "/krn");
         qunsetenv("KRNARCH");
-        QCOMPARE(PathExpansion::expand("${KRNHOME}$KRNHOME/$KRNHOMES/${KRNARCH}$1$$KRNHOME${KRNHOME"),
-                 QByteArray("/krn/krn/$KRNHOMES/${KRNARCH}$1$/krn${KRNHOME"));
+        QCOMPARE(PathExpansion::expand("${KRNHOME}$KRNHOME/$1$$KRNHOME${KRNHOME"),
+                 QByteArray("/krn/krn/$1$/krn${KRNHOME"));
+        for (const char *const unset : {"$KRNHOME/${KRNARCH}/lib", "$KRNHOMES"})
+            QCOMPARE(PathExpansion::expand(unset), QByteArray());
     }
 
-    void dialog()
+    void plantedLibrary()
+    {
+        const QString before = QDir::currentPath();
+        const fs::path planted = add(m_found / "$KRNHOME/$KRNARCH/lib/libNsc_Good.so", good);
+        QDir::setCurrent(QString::fromStdString(m_found.string()));
+        for (const char *const name : {"NSC_PLUGINS_DIRECTORY", "KRNHOME", "KRNARCH"})
+            qunsetenv(name);
+        const HbGUIManager manager(nullptr); // finds nothing: the test's end asks for the log
+        QDir::setCurrent(before);
+        QVERIFY(!isMapped(planted));
+    }
+
+    void directoriesOfOthers()
+    {
+        const QByteArray warning("Coin warning in HbGUIManager(): Other users can put plug-ins into '@'");
+        for (const char *const open : {"", "below"}) {
+            fs::create_directories(m_found / "below");
+            fs::permissions(m_found / open, fs::perms::all);
+            const HbGUIManager manager(nullptr);
+            QCOMPARE(takeReports(), {about(*open ? m_found / open : m_found, warning)});
+            fs::remove_all(m_found);
+        }
+    }
+
+    void dialogListsAddsAndRemoves()
     {
         const fs::path found = add(m_found / "libNsc_Good.so", good);
         const fs::path fixed
             = add(m_found.parent_path() / "Gr\xc3\xb6\xc3\x9f\x65 \xf0\x9f\x94\x8c/libNsc_NoRelease.so", good);
         const fs::path wrong = add(m_found / "text.so", content({}));
+        Tool tool;
+        auto manager = std::make_unique<HbGUIManager>(&tool);
+        QStringList shown;
+        for (int column = 0; column < rows()->columnCount(); ++column)
+            if (!rows()->isColumnHidden(column))
+                shown << rows()->headerItem()->text(column) << rows()->topLevelItem(0)->text(column);
+        QCOMPARE(shown.join(' '), QString("Name Gr\u00f6\u00df Description of the tests Help none Version 1"));
+        addFile({});
+        addFile(wrong);
+        QCOMPARE(takeReports(), {about(wrong, couldNotLoad)});
+        QCOMPARE(tool.changes, 0);
+        addFile(fixed);
+        addFile(found); // once more
+        removeRow(-1);
+        QCOMPARE(tool.changes, 2);
+        HbNscPluginsManagerDialog *const dialog = manager->getDialog();
+        dialog->insertFailedPlugin(wrong.c_str(), "why");
+        QCOMPARE(dialog->getPaths(), QByteArrayList({found.c_str(), fixed.c_str(), found.c_str(), wrong.c_str()}));
+        QVERIFY(manager->isFound(found.c_str()) && !manager->isFound(fixed.c_str()));
+        removeRow(3); // there is nothing to unload
+        removeRow(0);
+        QCOMPARE(takeLog(), released(found));
+        removeRow(1); // the same, which is gone
+        removeRow(0);
+        QCOMPARE(takeReports(), QByteArrayList({about(found, couldNotTerminate), about(fixed, couldNotTerminate)}));
+        QVERIFY(rows()->topLevelItemCount() == 0 && tool.changes == 6);
+        manager.reset();
+        QCOMPARE(takeReports(), {about(found, couldNotTerminate)});
+    }
+
+    void toolsMenuAndStartScreen()
+    {
         Tool tool;
         tool.startup.show();
         tool.show();
@@ -369,41 +419,13 @@ private Q_SLOTS:
             entry->trigger();
             entry->trigger();
             QVERIFY(rows()->window()->isVisible());
-            QStringList shown;
-            for (int column = 0; column < rows()->columnCount(); ++column) {
-                if (!rows()->isColumnHidden(column))
-                    shown << rows()->headerItem()->text(column) << rows()->topLevelItem(0)->text(column);
-            }
-            QCOMPARE(shown.join(' '), QString("Name Gr\u00f6\u00df Description of the tests Help none Version 1"));
-
-            const QStringList chooser{"Load Nodescope Plug-in", m_dir->filePath("found"), "Nodescope plug-ins (*.so)"};
-            QCOMPARE(addFile({}), chooser);
-            addFile(wrong);
-            QCOMPARE(takeReports(), {about(wrong, couldNotLoad)});
-            QCOMPARE(tool.changes, 0);
-            addFile(fixed);
-            addFile(found); // once more
-            removeRow(-1);
-            QCOMPARE(rows()->topLevelItemCount(), 3);
-            QCOMPARE(tool.changes, 2);
-
-            removeRow(0);
-            QCOMPARE(takeLog(), released(found));
-            removeRow(1); // the same, which is gone
-            removeRow(0);
-            QCOMPARE(takeReports(), QByteArrayList({about(found, couldNotTerminate), about(fixed, couldNotTerminate)}));
-            QCOMPARE(rows()->topLevelItemCount(), 0);
-            QCOMPARE(tool.changes, 5);
-
             QMetaObject::invokeMethod(entry->parent(), "hideDialog");
             QVERIFY(!rows()->window()->isVisible());
-            entry->trigger();
             delete rows()->window();
             for (const char *const slot : {"raiseDialog", "hideDialog", "removePlugin"})
                 QMetaObject::invokeMethod(entry->parent(), slot);
         }
         QCOMPARE(tool.menu.actions(), QList<QAction *>());
-        QCOMPARE(takeReports(), {about(found, couldNotTerminate)});
     }
 
     void endReleasesWhatTheScanFound()

@@ -6,6 +6,7 @@
 #include "support/PopupPlacement.h"
 
 #include <HbSFBox3sWidget.h>
+#include <HbSFImageLabel.h>
 #include <HbSFImageWidget.h>
 #include <HbSFMatrixWidget.h>
 
@@ -21,8 +22,15 @@ namespace
 class Grid : public HbPopupWidget
 {
 public:
-    Grid() : HbPopupWidget(nullptr, 2, 3, nullptr, nullptr, {}) { }
+    explicit Grid(HbFieldEditorCommandManager *manager = nullptr)
+        : HbPopupWidget("", manager, 2, 3, nullptr, nullptr, {})
+    {
+    }
     using HbPopupWidget::editAt;
+    void setCommandValue() override { ++commands; }
+    void applyChanges() override { ++writes; }
+    int commands = 0;
+    int writes = 0;
 };
 
 /// An editor with a popup and a field, shown.
@@ -107,12 +115,22 @@ private Q_SLOTS:
         QVERIFY(grid.edited());
     }
 
+    void returnGoesDirectly()
+    {
+        RecordingManager manager;
+        Grid managed(&manager);
+        Grid alone;
+        for (Grid *const grid : {&managed, &alone})
+            QTest::keyClick(grid->editAt(0, 0), Qt::Key_Return);
+        QCOMPARE(manager.takeLog(), QStringList("sfield null"));
+        QVERIFY(managed.commands == 0 && managed.writes == 0 && alone.commands == 0 && alone.writes == 1);
+    }
+
     void validators()
     {
         const std::tuple<int, QStringList, QStringList> rows[] = {
             {0, {"abc", ""}, {}},
             {1, {"-32768", "32767"}, {"32768", "1.5", "", "-"}},
-            {2, {"-2147483648", "2147483647"}, {"2147483648"}},
             {3, {"3.40282e+38", "-1.234567"}, {"3.5e38", "0.0123457", "1,5", "1e"}},
             {4, {"1e308", "0.0123456789"}, {"x", "1,5"}},
             {7, {"32767"}, {"32768"}}, // none of them: that of before
@@ -200,6 +218,7 @@ private Q_SLOTS:
                            size.isEmpty() ? nullptr : reinterpret_cast<const unsigned char *>(pixels.constData()));
             HbSFImageWidget editor("x", nullptr, nullptr, nullptr, {});
             present(editor, &field);
+            QCOMPARE(HbSFImageLabel(16, 16, nullptr, nullptr).objectName(), "HbSFImageLabel");
             auto *const box = editor.findChild<QLabel *>("m_imageBox");
             auto *const view = editor.findChild<QLabel *>("pixmapLabel");
             editor.grab();

@@ -70,6 +70,9 @@ private Q_SLOTS:
     {
         Bench bench(nullptr);
         QCOMPARE(bench.editor->objectName(), QLatin1String(bench.kind.name));
+        for (const QWidget *const part : bench.editor->findChildren<QWidget *>())
+            QVERIFY2(!part->objectName().isEmpty() || part->inherits("QAbstractItemView"),
+                     part->metaObject()->className());
         for (const QString &value : bench.kind.values) {
             bench.set(value);
             const QString held = bench.text();
@@ -188,45 +191,29 @@ private Q_SLOTS:
         QVERIFY2(bench.shows(bench.kind.written), describe(bench.text(), bench.kind.written));
     }
 
-    void survivesWhateverIsTyped_data() { addKinds(); }
-    void survivesWhateverIsTyped()
-    {
-        Bench bench(nullptr);
-        QRandomGenerator random(1);
-        const QString alphabet = "0123456789abcdefx+-.,eE \"'\\%nanif\u00e4\u20ac";
-        for (int round = 0; round < 60; ++round) {
-            QString text;
-            for (int i = random.bounded(1, 14); i > 0; --i)
-                text += alphabet.at(random.bounded(static_cast<int>(alphabet.size())));
-            bench.change(text);
-            const QString held = bench.text();
-            bench.editor->refresh();
-            bench.editor->applyChanges();
-            QVERIFY2(bench.shows(held), describe(text + " -> " + held, bench.text()));
-        }
-    }
-
     void deaths_data() { addKinds(); }
     void deaths()
     {
-        Bench bench(nullptr);
-        bench.field.reset();
-        bench.editor->refresh();
-        bench.change();
-        bench.button("m_ignoreButton")->click();
-        const std::unique_ptr<SoField> other = makeField("SFNode"); // not a field of its type
-        bench.editor->setField(other.get());
-        bench.editor->refresh();
-        bench.editor->setField(nullptr);
-        bench.change();
-
-        RecordingManager manager; // an editor goes while somebody types in it
+        RecordingManager manager;
         for (Manager *const used : {static_cast<Manager *>(&manager), static_cast<Manager *>(nullptr)}) {
-            Bench doomed(used);
+            Bench bench(used);
+            manager.takeLog();
+            bench.field.reset();
+            bench.editor->refresh();
+            bench.change();
+            for (const char *const name : {"m_ignoreButton", "m_defaultButton"})
+                bench.button(name)->click();
+            QCOMPARE(manager.takeLog(), QStringList()); // there is nothing to tell of
+            Bench doomed(used); // an editor goes while somebody types in it
             doomed.change(); // shows the popup where there is one
-            if (auto *const edit = qobject_cast<QLineEdit *>(doomed.editor->focusWidget()))
+            QLineEdit *edit = doomed.editor->findChild<QLineEdit *>("popupEdit_0_0");
+            if (!edit)
+                edit = doomed.editor->findChild<QLineEdit *>();
+            if (edit && !doomed.editor->findChild<QSpinBox *>()) // which commits each key
                 retype(edit, doomed.kind.typed);
+            manager.takeLog();
             doomed.editor.reset();
+            QCOMPARE(manager.takeLog(), QStringList());
         }
     }
 

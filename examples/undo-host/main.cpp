@@ -54,8 +54,10 @@ class UndoManager : public HbFieldEditorCommandManager
 {
 public:
     UndoManager(SoField &field, QUndoStack &undo)
-        : m_field(field), m_undo(undo), m_known(copyOf(field)), m_sensor(fieldChanged, this)
+        : m_field(&field), m_undo(undo), m_known(copyOf(field)), m_sensor(fieldChanged, this)
     {
+        m_sensor.setDeleteCallback([](void *self, SoSensor *) { static_cast<UndoManager *>(self)->m_field = nullptr; },
+                                   this);
         m_refresh.setSingleShot(true);
         connect(&m_refresh, &QTimer::timeout, this, [this] { refreshEditor(); });
         m_sensor.setPriority(0); // call at once: this host runs none of Coin's queues
@@ -85,7 +87,11 @@ public:
         QMetaObject::invokeMethod(m_editor, "setDefaultFieldValue");
         record();
     }
-    void fieldSetIgnored(bool ignored) override { m_field.setIgnored(ignored); }
+    void fieldSetIgnored(bool ignored) override
+    {
+        if (m_field)
+            m_field->setIgnored(ignored);
+    }
 
     void mfieldSwapRows(int, int) override { }
     void mfieldSwapColumns(int, int) override { }
@@ -101,21 +107,21 @@ private:
 
     void record()
     {
-        if (m_field.isSame(*m_known))
+        if (!m_field || m_field->isSame(*m_known))
             return;
-        FieldValue before = std::exchange(m_known, copyOf(m_field));
-        m_undo.push(new ChangeField(m_field, std::move(before), m_known));
+        FieldValue before = std::exchange(m_known, copyOf(*m_field));
+        m_undo.push(new ChangeField(*m_field, std::move(before), m_known));
     }
 
     void refreshEditor()
     {
-        if (!m_editor || isDragged())
+        if (!m_editor || !m_field || isDragged())
             return;
-        m_known = copyOf(m_field);
+        m_known = copyOf(*m_field);
         m_editor->refresh();
     }
 
-    SoField &m_field;
+    SoField *m_field; ///< null once it is gone: steps keep its node, but a field without a step may die
     QUndoStack &m_undo;
     FieldValue m_known;
     SoFieldSensor m_sensor;

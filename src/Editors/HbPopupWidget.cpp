@@ -8,6 +8,7 @@
 #include "support/GridValidators.h"
 #include "support/Icons.h"
 #include "support/PopupPlacement.h"
+#include "support/TranslatedTexts.h"
 
 #include <HbFieldEditorCommandManager.h>
 
@@ -38,8 +39,8 @@ HbPopupWidget::~HbPopupWidget() = default;
 void HbPopupWidget::buildPopup(int rows)
 {
     m_editButton = newEditorButton(this, QStringLiteral("m_editButton"), Icons::edit());
-    m_editButton->setToolTip(tr("Edit the components"));
-    m_editButton->setAccessibleName(m_editButton->toolTip());
+    m_texts = new TranslatedTexts(this);
+    m_texts->explain(m_editButton, [] { return tr("Edit the components"); });
     m_buttonLayout->insertWidget(0, m_editButton);
     connect(m_editButton, &QPushButton::clicked, this, &HbPopupWidget::managePopFramePos);
     m_lineEdit->setEnabled(false);
@@ -68,11 +69,11 @@ void HbPopupWidget::buildEdit(QGridLayout *grid, int row, int column)
 {
     auto *const edit = new QLineEdit(m_popupFrame);
     edit->setObjectName(QStringLiteral("popupEdit_%1_%2").arg(row).arg(column));
-    edit->setAccessibleName(tr("Row %1, column %2").arg(row + 1).arg(column + 1));
+    m_texts->set(edit, "accessibleName", [=] { return tr("Row %1, column %2").arg(row + 1).arg(column + 1); });
     grid->addWidget(edit, row, column);
     m_edits[static_cast<std::size_t>(row + column * m_columns)] = edit;
     connect(edit, &QLineEdit::editingFinished, this, &HbPopupWidget::setFocusLeaveEvent);
-    connect(edit, &QLineEdit::returnPressed, this, &HbPopupWidget::setCommandValue);
+    connect(edit, &QLineEdit::returnPressed, this, &HbPopupWidget::commit); // past a derived setCommandValue()
 }
 
 QLineEdit *HbPopupWidget::editAt(int row, int column) const
@@ -115,7 +116,10 @@ void HbPopupWidget::managePopFramePos()
         position = PopupPlacement::kept(position, screen->geometry(), size);
     }
     m_popupFrame->move(position);
-    refresh();
+    const QPointer<HbPopupWidget> self(this);
+    refresh(); // which commits where there is no label
+    if (!self)
+        return;
     m_popupFrame->show();
     if (!m_edits.empty())
         m_edits.front()->setFocus(Qt::PopupFocusReason);

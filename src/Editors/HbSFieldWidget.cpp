@@ -8,6 +8,7 @@
 #include "support/FieldDefaults.h"
 #include "support/FieldWatch.h"
 #include "support/Icons.h"
+#include "support/TranslatedTexts.h"
 
 #include <HbFieldEditorCommandManager.h>
 #include <HbIntSlider.h>
@@ -51,7 +52,7 @@ HbSFieldWidget::HbSFieldWidget(const char *label, SFFrameType frameType, HbField
     setObjectName(name ? QString::fromUtf8(name) : QStringLiteral("HbSFieldWidget"));
     buildSlider(frameType);
     buildLayout();
-    languageChange();
+    (new TranslatedTexts(this))->call([this] { languageChange(); });
     connectButtons();
     if (label)
         m_label->setText(QString::fromUtf8(label));
@@ -81,6 +82,7 @@ HbSFieldWidget::~HbSFieldWidget()
     const auto children = findChildren<QObject *>();
     for (QObject *const child : children)
         child->disconnect(this);
+    delete m_editionFrame; // where it is a slider it reports by itself
 }
 
 void HbSFieldWidget::buildSlider(SFFrameType frameType)
@@ -174,8 +176,10 @@ void HbSFieldWidget::buildLayout()
 void HbSFieldWidget::connectButtons()
 {
     if (m_commandManager)
-        connect(m_defaultButton, &QPushButton::clicked, m_commandManager.data(),
-                &HbFieldEditorCommandManager::fieldSetDefaultValue);
+        connect(m_defaultButton, &QPushButton::clicked, this, [this] {
+            if (m_commandManager && !hasLostField())
+                m_commandManager->fieldSetDefaultValue();
+        });
     else
         // There is no such slot, deliberately: the button does nothing then, and Qt says so.
         connect(m_defaultButton, SIGNAL(clicked()), this, SLOT(setDefaultValue()));
@@ -267,12 +271,23 @@ bool HbSFieldWidget::edited()
     return false;
 }
 
-void HbSFieldWidget::setCommandValue()
+void HbSFieldWidget::commit()
 {
+    if (m_isCommitting || hasLostField())
+        return;
+    const QPointer<HbSFieldWidget> self(this); // the host may delete it in answer
+    m_isCommitting = true;
     if (m_commandManager)
         m_commandManager->sfieldSetValue(nullptr);
     else
         applyChanges();
+    if (self)
+        m_isCommitting = false;
+}
+
+void HbSFieldWidget::setCommandValue()
+{
+    commit();
 }
 
 void HbSFieldWidget::setFocusLeaveEvent()
@@ -284,6 +299,8 @@ void HbSFieldWidget::setFocusLeaveEvent()
 void HbSFieldWidget::ignoreButtonStateChanged()
 {
     const bool ignored = m_ignoreButton->isChecked();
+    if (hasLostField())
+        return;
     if (m_commandManager)
         m_commandManager->fieldSetIgnored(ignored);
     else if (SoField *const edited = editedField())

@@ -17,10 +17,13 @@
 
 #include <Inventor/errors/SoDebugError.h>
 
+#include <algorithm>
 #include <dirent.h>
 #include <exception>
 #include <memory>
+#include <sys/stat.h>
 #include <typeinfo>
+#include <unistd.h>
 
 const SbString HbGUIManager::DEFAULT_PLUGIN_PATH("$KRNHOME/$KRNARCH/lib");
 
@@ -45,11 +48,24 @@ struct DirectoryEntry {
     bool isDirectory;
 };
 
+bool isWritableByOthers(int directory)
+{
+    struct stat status;
+    if (fstat(directory, &status) != 0)
+        return false;
+    const bool isOthers = status.st_uid != 0 && status.st_uid != geteuid();
+    const bool isGroups = status.st_gid != 0 && status.st_gid != getegid();
+    return (status.st_mode & S_IWOTH) || (isGroups && (status.st_mode & S_IWGRP))
+        || (isOthers && (status.st_mode & S_IWUSR));
+}
+
 /// Closed again before any of its directories is entered, so that depth costs no open files.
 std::vector<DirectoryEntry> entriesOf(const QByteArray &directory)
 {
     std::vector<DirectoryEntry> entries;
     const std::unique_ptr<DIR, int (*)(DIR *)> stream(opendir(directory.constData()), closedir);
+    if (stream && isWritableByOthers(dirfd(stream.get())))
+        SoDebugError::postWarning(source, "Other users can put plug-ins into '%s'", directory.constData());
     while (const dirent *const entry = stream ? readdir(stream.get()) : nullptr)
         entries.push_back({entry->d_name, entry->d_type == DT_DIR});
     return entries;
@@ -66,18 +82,20 @@ QByteArray entryPoint(const SbString &path, const char *tail)
     return "_ZN" + QByteArray::number(name.size()) + name + tail;
 }
 
-/// Runs a plug-in's own code, from which no exception gets out; returns whether it came to its end.
-template <class Call> bool callPlugin(const SbString &path, Call call)
+/// Runs a plug-in's own code, from which no exception gets out; returns what it threw, or nothing.
+template <class Call> QByteArray callPlugin(const SbString &path, Call call)
 {
+    QByteArray thrown;
     try {
         call();
-        return true;
+        return thrown;
     } catch (const std::exception &error) {
-        SoDebugError::post(source, "Plugin '%s' threw an exception: %s", path.getString(), error.what());
+        thrown = QByteArray("an exception: ") + error.what();
     } catch (...) {
-        SoDebugError::post(source, "Plugin '%s' threw an exception", path.getString());
+        thrown = "an exception";
     }
-    return false;
+    SoDebugError::post(source, "Plugin '%s' threw %s", path.getString(), thrown.constData());
+    return thrown;
 }
 
 /// The widgets whose class is defined in the library.
@@ -118,7 +136,7 @@ void release(const SbString &path, void (*releaseInstance)())
     void *const library = SharedLibrary::take(bytesOf(path)); // what is called from here on cannot release it again
     flushEvents();
     withdrawEditors(library);
-    const bool isReleased = callPlugin(path, releaseInstance);
+    const bool isReleased = callPlugin(path, releaseInstance).isEmpty();
     flushEvents();
     if (isReleased && widgetsOf(library).empty() && !SharedLibrary::isRunning(library))
         SharedLibrary::close(library);
@@ -156,7 +174,7 @@ SbString HbGUIManager::pluginsDirectory()
 
 void HbGUIManager::loadHbPlugins()
 {
-    pluginsPath = pluginsDirectory();
+    pluginsPath = pluginsDirectory(); // empty where the default says nothing: then there is none to open
     buildFilesPaths(pluginsPath);
     const std::vector<QByteArray> found = filesPaths;
     for (const QByteArray &path : found)
@@ -178,18 +196,22 @@ void HbGUIManager::buildFilesPaths(const SbString &directory)
 
 HbNscPlugins *HbGUIManager::loadPlugin(const SbString &path)
 {
+    loadError.clear();
     const QByteArray symbol = entryPoint(path, "11getInstanceEP15HbGUIManagement");
-    if (!SharedLibrary::load(bytesOf(path), true)) {
+    QByteArray reason;
+    if (!SharedLibrary::load(bytesOf(path), true, &reason)) {
+        loadError = QFile::decodeName(reason);
         SoDebugError::post(source, "Could not load plugin '%s' !", path.getString());
         return nullptr;
     }
     void *const address = SharedLibrary::symbol(bytesOf(path), symbol);
     if (!address) {
+        loadError = QStringLiteral("undefined symbol: ") + QString::fromLatin1(symbol);
         SoDebugError::post(source, "Could not locate method '%s'\n  in '%s' !", symbol.constData(), path.getString());
         return nullptr;
     }
     HbNscPlugins *plugin = nullptr;
-    callPlugin(path, [&] {
+    const QByteArray thrown = callPlugin(path, [&] {
         plugin = reinterpret_cast<HbNscPlugins *(*)(HbGUIManagement *)>(address)(management);
         if (!plugin)
             SoDebugError::post(source, "Plugin '%s' returned no object", path.getString());
@@ -197,6 +219,9 @@ HbNscPlugins *HbGUIManager::loadPlugin(const SbString &path)
     if (plugin) {
         plugin->setPath(path);
         plugins.push_back(plugin);
+    } else {
+        loadError = thrown.isEmpty() ? QStringLiteral("getInstance() returned no object")
+                                     : QStringLiteral("getInstance() threw ") + QString::fromUtf8(thrown);
     }
     return plugin;
 }
@@ -213,6 +238,21 @@ void HbGUIManager::unloadPlugin(const SbString &path)
 SbString HbGUIManager::getPluginsPath() const
 {
     return pluginsPath;
+}
+
+QString HbGUIManager::getLoadError() const
+{
+    return loadError;
+}
+
+HbNscPluginsManagerDialog *HbGUIManager::getDialog() const
+{
+    return managerDialog;
+}
+
+bool HbGUIManager::isFound(const QByteArray &path) const
+{
+    return std::find(filesPaths.begin(), filesPaths.end(), path) != filesPaths.end();
 }
 
 std::vector<HbGUIManager::Preference> HbGUIManager::getPreferences()

@@ -3,6 +3,9 @@
 
 #include <HbGUITreeviewManagement.h>
 
-HbGUITreeviewManagement::HbGUITreeviewManagement(QWidget *parent) : QTreeWidget(parent) { }
+HbGUITreeviewManagement::HbGUITreeviewManagement(QWidget *parent) : QTreeWidget(parent)
+{
+    setObjectName(QStringLiteral("HbGUITreeviewManagement"));
+}
 
 HbGUITreeviewManagement::~HbGUITreeviewManagement() = default;

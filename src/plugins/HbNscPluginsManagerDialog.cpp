@@ -6,6 +6,9 @@
 #include <HbGUIManager.h>
 #include <HbNscPlugins.h>
 
+#include "support/PathExpansion.h"
+#include "support/TranslatedTexts.h"
+
 #include <QAction>
 #include <QFile>
 #include <QFileDialog>
@@ -18,7 +21,8 @@
 namespace
 {
 enum Column { Name, Description, Help, Version, Path, ColumnCount };
-}
+constexpr int isLoadedRole = Qt::UserRole;
+} // namespace
 
 HbNscPluginsManagerDialog::HbNscPluginsManagerDialog(HbGUIManagement *tool, HbGUIManager *pluginManager)
     : management(tool), manager(pluginManager)
@@ -31,44 +35,52 @@ HbNscPluginsManagerDialog::~HbNscPluginsManagerDialog()
     delete frame;
 }
 
-void HbNscPluginsManagerDialog::addMenuEntry()
+void HbNscPluginsManagerDialog::addMenuEntry(TranslatedTexts &texts)
 {
     QMenu *const menu = management ? management->getPluginsMenu() : nullptr;
     if (!menu)
         return;
     auto *const separator = new QAction(this); // as children of this object both leave the menu with it
     separator->setSeparator(true);
-    auto *const entry = new QAction(tr("Plug-ins"), this);
+    auto *const entry = new QAction(this);
+    texts.set(entry, "text", [] { return tr("Plug-ins"); });
     connect(entry, &QAction::triggered, this, &HbNscPluginsManagerDialog::raiseDialog);
     menu->addActions({separator, entry});
 }
 
 void HbNscPluginsManagerDialog::buildDialog()
 {
-    addMenuEntry();
     frame = new QFrame; // deleted by the destructor
     frame->setObjectName(QStringLiteral("HbNscPluginsManagerDialog"));
-    frame->setWindowTitle(tr("Plug-ins Management"));
+    auto *const texts = new TranslatedTexts(frame);
+    texts->set(frame, "windowTitle", [] { return tr("Plug-ins Management"); });
+    addMenuEntry(*texts);
     frame->resize(640, 480);
     frame->setAttribute(Qt::WA_QuitOnClose, false); // the tool ends with its main window
 
-    const auto addButton = [this](const char *name, const QString &text, const QString &toolTip, auto slot) {
-        auto *const button = new QPushButton(text, frame);
+    const auto addButton = [&](const char *name, auto text, auto toolTip, auto slot) {
+        auto *const button = new QPushButton(frame);
         button->setObjectName(QLatin1String(name));
-        button->setToolTip(toolTip);
+        texts->set(button, "text", text);
+        texts->set(button, "toolTip", toolTip);
         connect(button, &QPushButton::clicked, this, slot);
         return button;
     };
-    auto *const add
-        = addButton("addButton", tr("Add"), tr("Loads a plug-in and start it."), &HbNscPluginsManagerDialog::addPlugin);
-    auto *const remove
-        = addButton("removeButton", tr("Remove"), tr("Unloads a plug-in."), &HbNscPluginsManagerDialog::removePlugin);
+    auto *const add = addButton(
+        "addButton", [] { return tr("Add"); }, [] { return tr("Loads a plug-in and start it."); },
+        &HbNscPluginsManagerDialog::addPlugin);
+    auto *const remove = addButton(
+        "removeButton", [] { return tr("Remove"); }, [] { return tr("Unloads a plug-in."); },
+        &HbNscPluginsManagerDialog::removePlugin);
 
     pluginsTree = new QTreeWidget(frame);
     pluginsTree->setObjectName(QStringLiteral("pluginsTree"));
-    pluginsTree->setAccessibleName(tr("Plug-ins"));
+    texts->set(pluginsTree, "accessibleName", [] { return tr("Plug-ins"); });
     pluginsTree->setColumnCount(ColumnCount);
-    pluginsTree->setHeaderLabels({tr("Name"), tr("Description"), tr("Help"), tr("Version"), tr("Path")});
+    texts->call([this] {
+        if (pluginsTree)
+            pluginsTree->setHeaderLabels({tr("Name"), tr("Description"), tr("Help"), tr("Version"), tr("Path")});
+    });
     pluginsTree->setColumnHidden(Path, true);
     pluginsTree->setUniformRowHeights(true);
     pluginsTree->setRootIsDecorated(false);
@@ -103,7 +115,20 @@ void HbNscPluginsManagerDialog::insertPlugin(HbNscPlugins *plugin)
     const QStringList texts{textOf(&HbNscPlugins::getName), textOf(&HbNscPlugins::getDescription),
                             textOf(&HbNscPlugins::getHelp), textOf(&HbNscPlugins::getVersion),
                             textOf(&HbNscPlugins::getPath)};
+    addRow(texts, true);
+}
+
+void HbNscPluginsManagerDialog::insertFailedPlugin(const QByteArray &path, const QString &reason)
+{
+    const QString name = QFile::decodeName(PathExpansion::baseName(path));
+    if (pluginsTree)
+        addRow({name, reason, QString(), QString(), QString::fromLatin1(path)}, false);
+}
+
+void HbNscPluginsManagerDialog::addRow(const QStringList &texts, bool isLoaded)
+{
     auto *const row = new QTreeWidgetItem(pluginsTree, texts); // owned by the tree
+    row->setData(Path, isLoadedRole, isLoaded);
     for (const Column column : {Description, Help}) // long, as a rule
         row->setToolTip(column, row->text(column));
     pluginsTree->resizeColumnToContents(Name);
@@ -132,7 +157,8 @@ void HbNscPluginsManagerDialog::removePlugin()
         return;
     const QPointer<HbNscPluginsManagerDialog> self(this);
     const QPersistentModelIndex row(pluginsTree->currentIndex());
-    manager->unloadPlugin(current->text(Path).toLatin1().constData());
+    if (current->data(Path, isLoadedRole).toBool())
+        manager->unloadPlugin(current->text(Path).toLatin1().constData());
     if (!self)
         return;
     if (row.isValid() && pluginsTree)
@@ -140,6 +166,19 @@ void HbNscPluginsManagerDialog::removePlugin()
     if (management)
         management->pluginsChanged();
     repaintTool();
+}
+
+QByteArrayList HbNscPluginsManagerDialog::getPaths() const
+{
+    QByteArrayList paths;
+    for (int row = 0; pluginsTree && row < pluginsTree->topLevelItemCount(); ++row)
+        paths << pluginsTree->topLevelItem(row)->text(Path).toLatin1();
+    return paths;
+}
+
+QWidget *HbNscPluginsManagerDialog::getWindow() const
+{
+    return frame;
 }
 
 /// Whatever the plug-in showed disappears at once.

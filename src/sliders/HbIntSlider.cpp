@@ -5,6 +5,7 @@
 
 #include "IntegerText.h"
 #include "support/NumberValidator.h"
+#include "support/TranslatedTexts.h"
 
 #include <QLineEdit>
 
@@ -31,7 +32,7 @@ HbIntSlider::~HbIntSlider() = default;
 void HbIntSlider::store(int newValue)
 {
     value = sliderPosition = newValue;
-    edit->setToolTip(IntegerText::toolTip(value, base));
+    m_texts->set(edit, "toolTip", [number = value, base = base] { return IntegerText::toolTip(number, base); });
 }
 
 void HbIntSlider::setTop(int newTop)
@@ -111,7 +112,7 @@ void HbIntSlider::updateEdit()
 
 void HbIntSlider::saveDataFromField()
 {
-    previousData = std::make_unique<SbString>(IntegerText::digits(value, base).toLatin1().constData());
+    keepPreviousData(IntegerText::digits(value, base));
 }
 
 int HbIntSlider::getIntValue() const

@@ -130,7 +130,7 @@ void HbRealSlider::updateEdit()
 
 void HbRealSlider::saveDataFromField()
 {
-    previousData = std::make_unique<SbString>(NumberText::fromFloat(value).toLatin1().constData());
+    keepPreviousData(NumberText::fromFloat(value));
 }
 
 float HbRealSlider::getRealValue() const

@@ -4,7 +4,9 @@
 #include <HbSlider.h>
 
 #include "IntegerText.h"
+#include "support/CoinText.h"
 #include "support/QtCompat.h"
+#include "support/TranslatedTexts.h"
 #include "support/WheelGuard.h"
 
 #include <HbFieldEditorCommandManager.h>
@@ -18,7 +20,7 @@
 
 HbSlider::HbSlider(SliderParentType parentType, HbFieldEditors *editor, HbFieldEditorCommandManager *commandManager,
                    QWidget *parent, int row, int col)
-    : QFrame(parent), edit(new QLineEdit(this)), m_layout(new QHBoxLayout(this)),
+    : QFrame(parent), m_texts(new TranslatedTexts(this)), edit(new QLineEdit(this)), m_layout(new QHBoxLayout(this)),
       slider(new QSlider(Qt::Horizontal, this)), notifyBox(new QCheckBox(this)), parentType(parentType), editor(editor),
       commandManager(commandManager), row(row), col(col)
 {
@@ -37,10 +39,10 @@ HbSlider::HbSlider(SliderParentType parentType, HbFieldEditors *editor, HbFieldE
     setTabOrder(slider, edit);
     slider->setTracking(true);
     ignoreWheelWithoutFocus(slider);
-    edit->setAccessibleName(tr("Value"));
-    slider->setAccessibleName(tr("Value slider"));
-    notifyBox->setAccessibleName(tr("Change the field while dragging"));
-    notifyBox->setToolTip(tr("Change the field while the slider is dragged"));
+    m_texts->set(edit, "accessibleName", [] { return tr("Value"); });
+    m_texts->set(slider, "accessibleName", [] { return tr("Value slider"); });
+    m_texts->set(notifyBox, "accessibleName", [] { return tr("Change the field while dragging"); });
+    m_texts->set(notifyBox, "toolTip", [] { return tr("Change the field while the slider is dragged"); });
 
     connect(slider, &QSlider::sliderPressed, this, &HbSlider::beginCallback);
     connect(slider, &QSlider::valueChanged, this, &HbSlider::valueChangeSlot);
@@ -65,6 +67,12 @@ HbSlider::~HbSlider()
 void HbSlider::setValue(QString) { }
 
 void HbSlider::saveDataFromField() { }
+
+void HbSlider::keepPreviousData(const QString &text)
+{
+    m_unclaimed = std::make_unique<SbString>(CoinText::toSbString(text));
+    previousData = m_unclaimed.get();
+}
 
 void HbSlider::setRow(int newRow)
 {
@@ -140,19 +148,29 @@ template <class Report> void HbSlider::reportCell(const Report &report)
         table->setRefresh(true);
 }
 
-/// The host may delete the slider in answer: callers touch no member afterwards.
-void HbSlider::reportCommand(std::unique_ptr<SbString> previous)
+/// Whether the editor's field died.
+bool HbSlider::isSilenced() const
 {
+    return editor && editor->hasLostField();
+}
+
+/// The host may delete the slider in answer: callers touch no member afterwards.
+void HbSlider::reportCommand(SbString *previous)
+{
+    if (isSilenced())
+        return;
+    if (commandManager && previous && previous == m_unclaimed.get())
+        m_unclaimed.release(); // the manager's from here on
     if (parentType != SingleField) {
         const QString text = getText();
         reportCell([&] {
             if (commandManager)
-                commandManager->mfieldSet1Value(row, col, text, previous.release());
+                commandManager->mfieldSet1Value(row, col, text, previous);
             else if (editor)
                 editor->set1Value(row, col, text);
         });
     } else if (commandManager) {
-        commandManager->sfieldSetValue(previous.release());
+        commandManager->sfieldSetValue(previous);
     } else if (editor) {
         editor->applyChanges();
     }
@@ -161,7 +179,7 @@ void HbSlider::reportCommand(std::unique_ptr<SbString> previous)
 /// Writes through the editor even where there is a command manager: a drag is one command, at its end.
 void HbSlider::reportLive()
 {
-    if (!editor)
+    if (!editor || isSilenced())
         return;
     if (parentType == SingleField)
         editor->applyChanges();
@@ -203,7 +221,7 @@ void HbSlider::finishCallback()
 void HbSlider::changeValueAfterFinish(int position)
 {
     setValueFromSlider(position);
-    reportCommand(std::move(previousData));
+    reportCommand(std::exchange(previousData, nullptr));
 }
 
 void HbSlider::changeValueFromEdit()

@@ -4,6 +4,7 @@
 #include <HbUIntSlider.h>
 
 #include "IntegerText.h"
+#include "support/TranslatedTexts.h"
 
 #include <QLineEdit>
 
@@ -37,7 +38,7 @@ void HbUIntSlider::store(unsigned int newValue)
 {
     value = newValue;
     sliderPosition = positionOf(value);
-    edit->setToolTip(IntegerText::toolTip(value, base));
+    m_texts->set(edit, "toolTip", [number = value, base = base] { return IntegerText::toolTip(number, base); });
 }
 
 void HbUIntSlider::setTop(unsigned int newTop)
@@ -112,7 +113,7 @@ void HbUIntSlider::updateEdit()
 
 void HbUIntSlider::saveDataFromField()
 {
-    previousData = std::make_unique<SbString>(getText().toUtf8().constData());
+    keepPreviousData(getText());
 }
 
 unsigned int HbUIntSlider::getUIntValue() const

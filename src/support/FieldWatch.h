@@ -22,23 +22,28 @@ public:
     {
         m_watch.detach();
         m_field = field;
+        m_isLost = false;
         m_gone = std::move(gone);
         if (field)
             m_watch.attach(field);
     }
 
     SoField *get() const { return m_field; }
+    /// Whether the field was deleted, and no other set since.
+    bool isLost() const { return m_isLost; }
 
 private:
     static void fieldDeleted(void *self, SoSensor *)
     {
         auto *const watch = static_cast<FieldWatch *>(self);
         watch->m_field = nullptr;
+        watch->m_isLost = true;
         if (watch->m_gone)
             watch->m_gone();
     }
 
     SoField *m_field = nullptr;
+    bool m_isLost = false;
     std::function<void()> m_gone;
     FieldDeletionWatch m_watch;
 };

@@ -18,7 +18,7 @@
  * A validator of the numbers typed in a line edit, in the C locale on every desktop.
  *
  * Qt's own validators rewrite the text when a person leaves the edit; this one leaves it alone, or, once
- * told to clamp, turns a number beyond the range into the nearest bound.
+ * told to clamp, turns a number that was typed beyond the range into the nearest bound.
  */
 template <class QtValidator> class NumberValidator : public QtValidator
 {
@@ -54,10 +54,10 @@ public:
         bool converted = false;
         const double number = text.toDouble(&converted);
         const bool beyond = number > this->top() || number < this->bottom();
-        if (!m_clamping || !converted || !beyond)
+        if (!m_clamping || !converted || !beyond || !static_cast<QLineEdit *>(this->parent())->isModified())
             return;
         text = textOf(number > this->top() ? this->top() : this->bottom());
-        m_clampedEdit = static_cast<QLineEdit *>(this->parent())->isModified();
+        m_clampedEdit = true;
     }
 
 private:

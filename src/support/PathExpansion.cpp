@@ -14,8 +14,9 @@ QByteArray PathExpansion::expand(const QByteArray &path)
     for (auto matches = reference.globalMatch(text); matches.hasNext();) {
         const QRegularExpressionMatch match = matches.next();
         const QByteArray value = qgetenv((match.captured(1) + match.captured(2)).toLatin1().constData());
-        expanded += path.mid(rest, int(match.capturedStart()) - rest);
-        expanded += value.isEmpty() ? match.captured().toLatin1() : value;
+        if (value.isEmpty())
+            return {};
+        expanded += path.mid(rest, int(match.capturedStart()) - rest) + value;
         rest = int(match.capturedEnd());
     }
     return expanded + path.mid(rest);

@@ -9,7 +9,8 @@
 /// File paths as bytes, which is what the system takes them for.
 namespace PathExpansion
 {
-/// Puts the environment's values in the place of $NAME and ${NAME}, once; what is unset or empty stays as written.
+/// Puts the environment's values in the place of $NAME and ${NAME}, once. Empty where one of them is unset or empty:
+/// what is left would be another place.
 QByteArray expand(const QByteArray &path);
 
 /// What follows the last slash.

@@ -4,6 +4,7 @@
 #include "RowValues.h"
 
 #include "CoinText.h"
+#include "coin/FieldReader.h"
 
 #include <Inventor/SbMatrix.h>
 #include <Inventor/SbPlane.h>
@@ -176,6 +177,12 @@ QString RowValues::text(SoMField &field, int row)
     return CoinText::toQString(text);
 }
 
+bool RowValues::holdsObjects(const SoMField &field)
+{
+    return field.isOfType(SoMFNode::getClassTypeId()) || field.isOfType(SoMFEngine::getClassTypeId())
+        || field.isOfType(SoMFPath::getClassTypeId());
+}
+
 bool RowValues::isLongString(const SoMField &field, int row)
 {
     constexpr std::size_t few = 4096; // bytes
@@ -203,5 +210,5 @@ QString RowValues::startOfStringText(const SoMFString &field, int row, int limit
 
 bool RowValues::setText(SoMField &field, int row, const QString &text)
 {
-    return contains(field, row) && field.set1(row, CoinText::toSbString(text).getString());
+    return contains(field, row) && FieldReader::set1(field, row, CoinText::toSbString(text).getString());
 }

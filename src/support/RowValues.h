@@ -27,6 +27,8 @@ void remove(SoMField &field, int row, int count);
 
 /// A value in the field's notation; empty outside the field.
 QString text(SoMField &field, int row);
+/// Whether the values are nodes, engines or paths.
+bool holdsObjects(const SoMField &field);
 /// Whether there is a string that is too long to be made a QString for each paint of its cell.
 bool isLongString(const SoMField &field, int row);
 /// The start of a string's value, at least @p limit characters where it has as many; costs no more than that.

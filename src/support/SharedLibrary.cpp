@@ -95,17 +95,19 @@ QByteArray unmistakable(const QByteArray &path)
 }
 } // namespace
 
-bool SharedLibrary::load(const QByteArray &path, bool resolveNow)
+bool SharedLibrary::load(const QByteArray &path, bool resolveNow, QByteArray *reason)
 {
     if (handles().count(path))
         return true;
     if (!isWholeLibrary(path.toStdString())) {
-        qCDebug(plugins, "%s cannot be read, is no library for this machine, or is cut short", path.constData());
+        *reason = path + " cannot be read, is no library for this machine, or is cut short";
+        qCDebug(plugins, "%s", reason->constData());
         return false;
     }
     void *const handle = dlopen(unmistakable(path).constData(), (resolveNow ? RTLD_NOW : RTLD_LAZY) | RTLD_LOCAL);
     if (!handle) {
-        qCDebug(plugins, "%s", dlerror());
+        *reason = dlerror();
+        qCDebug(plugins, "%s", reason->constData());
         return false;
     }
     qCDebug(plugins, "%s is open", path.constData());

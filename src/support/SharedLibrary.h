@@ -16,10 +16,10 @@ constexpr const char *suffix = ".so";
  * Opens the library, or finds it open; false where it cannot be opened.
  *
  * @p resolveNow looks every symbol up at once, so that one that is missing makes this fail; otherwise it would end
- * the process when it is called. Only whole, regular files are opened. Why a library was refused is told
- * on the logging category "harbor.plugins".
+ * the process when it is called. Only whole, regular files are opened. Why a library was refused is put in @p reason
+ * and told on the logging category "harbor.plugins".
  */
-bool load(const QByteArray &path, bool resolveNow);
+bool load(const QByteArray &path, bool resolveNow, QByteArray *reason);
 
 /// The address of a symbol; null where there is none, or where the library is not open.
 void *symbol(const QByteArray &path, const QByteArray &name);

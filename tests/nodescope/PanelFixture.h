@@ -64,6 +64,7 @@ private Q_SLOTS:
         m_panel.reset();
         m_stack.reset();
         m_cone.reset();
+        m_odd.reset();
         QCOMPARE(Complaints::take(), QByteArray());
     }
 
@@ -74,11 +75,32 @@ protected:
     }
     QLineEdit *height() { return control<QLineEdit>("Cone.height"); }
     QSlider *slider() { return control<QSlider>("Cone.height"); }
+
+    /// Shows a node of a class that has one field: "SFVec3f value 1 2 3".
+    void show(const QByteArray &declaration)
+    {
+        const QByteArrayList words = declaration.split(' ');
+        const QByteArray text = "#Inventor V2.1 ascii\nOdd { fields [ " + words[0] + " value ] "
+            + (words.size() > 2 ? declaration.mid(words[0].size()) : QByteArray()) + " }";
+        SoInput input;
+        input.setBuffer(text.constData(), size_t(text.size()));
+        SoNode *node = nullptr;
+        QVERIFY(SoDB::read(&input, node) && node);
+        m_odd = std::make_unique<Ref<SoNode>>(node);
+        m_panel->setNode(node);
+    }
+    template <class Field> Field *field() { return static_cast<Field *>((*m_odd)->getField("value")); }
+    QList<QLineEdit *> edits(const char *field = "value")
+    {
+        return m_panel->editorOf(field)->findChildren<QLineEdit *>();
+    }
+
     void typeHeight(const QString &text, Qt::Key end = Qt::Key_Return) { enter(height(), text, end); }
 
     std::unique_ptr<QUndoStack> m_stack;
     std::unique_ptr<FieldPanel> m_panel;
     std::unique_ptr<Ref<SoCone>> m_cone;
+    std::unique_ptr<Ref<SoNode>> m_odd;
     QStringList m_messages;
 };
 

@@ -72,6 +72,7 @@ private Q_SLOTS:
             QCOMPARE(cone->height.getValue(), 3.5f);
             QCOMPARE(m_stack->count(), 1);
             QCOMPARE(m_stack->undoText(), QString::fromUtf8("Cone.height: 2 \u2192 3.5"));
+            QApplication::processEvents(); // the button comes alive
             for (const char *const button : {"m_ignoreButton", "m_defaultButton"})
                 QTest::mouseClick(m_panel->findChildren<QPushButton *>(button).at(1), Qt::LeftButton);
             QVERIFY(cone->height.isIgnored() && cone->height.isDefault());
@@ -125,21 +126,6 @@ private Q_SLOTS:
         QVERIFY(hasOddHeight());
     }
 
-    void clickOnHandle()
-    {
-        coneOfOddHeight();
-        const QPoint start = handleOf(slider());
-        QTest::mouseClick(slider(), Qt::LeftButton, {}, start);
-        QVERIFY(hasOddHeight());
-        QTest::mousePress(slider(), Qt::LeftButton, {}, start);
-        dragTo(slider(), start + QPoint(30, 0));
-        QVERIFY(!hasOddHeight());
-        dragTo(slider(), start);
-        QTest::mouseRelease(slider(), Qt::LeftButton, {}, start);
-        QVERIFY(hasOddHeight());
-        QCOMPARE(m_stack->count(), 0);
-    }
-
     void undoneInDrag_data()
     {
         QTest::addColumn<int>("bits");
@@ -171,6 +157,38 @@ private Q_SLOTS:
         QCOMPARE(m_stack->canRedo(), !isStep);
         m_stack->undo();
         QVERIFY(hasOddHeight());
+    }
+
+    void commandsEndADrag()
+    {
+        const QByteArray before = saved(*m_cone);
+        for (const char *const name : {"m_ignoreButton", "m_defaultButton"}) {
+            const QPoint at = handleOf(slider());
+            QTest::mousePress(slider(), Qt::LeftButton, {}, at);
+            dragTo(slider(), at + QPoint(30, 0));
+            QApplication::processEvents(); // the default can be had once it differs
+            m_panel->editorOf("height")->findChild<QPushButton *>(name)->click();
+            dragTo(slider(), at + QPoint(60, 0));
+            QTest::mouseRelease(slider(), Qt::LeftButton, {}, at + QPoint(60, 0));
+            QCOMPARE(m_stack->count(), 2);
+            m_stack->setIndex(0);
+            QCOMPARE(saved(*m_cone), before);
+        }
+    }
+
+    void escapeEndsADragWithTheBoxOff()
+    {
+        coneOfOddHeight();
+        control<QCheckBox>("Cone.height")->setChecked(false);
+        const QPoint at = handleOf(slider());
+        QTest::mousePress(slider(), Qt::LeftButton, {}, at);
+        dragTo(slider(), at + QPoint(30, 0));
+        QVERIFY(height()->text() != "2.34568");
+        QTest::keyClick(m_panel.get(), Qt::Key_Escape); // wherever the keyboard is
+        QCOMPARE(height()->text(), QString("2.34568"));
+        dragTo(slider(), at + QPoint(40, 0));
+        QTest::mouseRelease(slider(), Qt::LeftButton, {}, at + QPoint(40, 0));
+        QVERIFY(hasOddHeight() && m_stack->count() == 0);
     }
 
     void anotherNodeInDrag()
@@ -219,7 +237,7 @@ private Q_SLOTS:
             else if (how == "groove")
                 QTest::mouseClick(slider(), Qt::LeftButton, {}, {slider()->width() - 4, slider()->height() / 2});
             else
-                slider()->setValue(slider()->value() + 1);
+                slider()->setValue(slider()->value() + slider()->singleStep());
             QApplication::processEvents();
         }
         QVERIFY(cone->height.getValue() > 2.36f);
@@ -257,24 +275,8 @@ private Q_SLOTS:
         }
         QFrame *const row = qobject_cast<QFrame *>(height()->parentWidget()->parentWidget());
         QVERIFY(row->accessibleDescription().contains("Calculator.oa"));
-        const std::function<void()> attempts[] = {
-            [this] { typeHeight("7"); },
-            [this] {
-                QTest::mouseClick(slider(), Qt::LeftButton, {}, {slider()->width() - 4, slider()->height() / 2});
-            },
-            [this] { QTest::keyClick(slider(), Qt::Key_Right); },
-            [row] { QTest::mouseClick(row->findChild<QPushButton *>("m_defaultButton"), Qt::LeftButton); },
-        };
-        for (const auto &attempt : attempts) {
-            m_messages.clear();
-            slider()->setFocus();
-            attempt();
-            QCOMPARE(m_messages.size(), 1);
-            QVERIFY(m_messages.first().contains("Calculator.oa"));
-            QCOMPARE(m_stack->count(), 0);
-            QCOMPARE(cone->height.getValue(), 2.5f);
-            QCOMPARE(height()->text(), QString("2.5"));
-        }
+        typeHeight("7");
+        QVERIFY(m_stack->count() == 0 && cone->height.getValue() == 2.5f && height()->text() == "2.5");
     }
 
     void silentDisconnection()
@@ -286,29 +288,10 @@ private Q_SLOTS:
         QVERIFY(row->accessibleDescription().contains("Cone.bottomRadius"));
         cone->height.disconnect(); // of which Coin tells nobody
         height()->setFocus();
-        QCOMPARE(row->accessibleDescription(), QString());
+        QVERIFY(!row->accessibleDescription().contains("Cone.bottomRadius"));
         typeHeight("7");
         QCOMPARE(cone->height.getValue(), 7.0f);
         QCOMPARE(m_messages, QStringList());
-    }
-
-    void unfinishedText()
-    {
-        typeHeight("1e");
-        QTest::keyClick(height(), Qt::Key_Tab);
-        QApplication::processEvents();
-        QCOMPARE(height()->text(), QString("2"));
-        QCOMPARE(m_stack->count(), 0);
-    }
-
-    void undoKeyGoesToApplication()
-    {
-        QAction *const undo = m_stack->createUndoAction(m_panel.get());
-        undo->setShortcut(QKeySequence::Undo);
-        m_panel->addAction(undo);
-        typeHeight("3");
-        QTest::keyClick(height(), Qt::Key_Z, Qt::ControlModifier);
-        QCOMPARE((*m_cone)->height.getValue(), 2.0f);
     }
 };
 

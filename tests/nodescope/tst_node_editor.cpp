@@ -212,16 +212,6 @@ private Q_SLOTS:
         m_window->document()->undoStack()->undo();
         QTRY_COMPARE(own->m_edits[1]->text(), QStringLiteral("0"));
         delete own;
-
-        select(QStringLiteral("0/4"));
-        auto &points = static_cast<SoCoordinate3 *>(m_window->tree()->selectedNode())->point;
-        const QScopedPointer<QFrame> line(m_window->createFieldEditor(
-            &points, [](Manager *manager) { return new HbSFLineWidget("p", manager, nullptr, nullptr, {}); }));
-        retype(line->findChild<QLineEdit *>(), QStringLiteral("[1 2 3, 4 5 6]"));
-        QTest::keyClick(line->findChild<QLineEdit *>(), Qt::Key_Return);
-        QCOMPARE(points.getNum(), 2);
-        m_window->document()->undoStack()->undo();
-        QCOMPARE(points.getNum(), 1);
     }
 
     void nothingIsLostInADock()

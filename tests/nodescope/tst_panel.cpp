@@ -11,7 +11,11 @@
 #include <QScrollBar>
 
 #include <Inventor/lists/SoTypeList.h>
+#include <Inventor/nodes/SoCube.h>
 #include <Inventor/nodes/SoMatrixTransform.h>
+#include <Inventor/nodes/SoSphere.h>
+
+#include <cfloat>
 
 class PanelTest : public PanelFixture
 {
@@ -62,16 +66,52 @@ private Q_SLOTS:
         QCOMPARE(kept->text(), QString("8"));
     }
 
-    void rangesAreReset()
+    void whoeverGetsTheFocusMayAskForAnotherNode()
     {
-        Ref<SoCone> wide;
-        wide->height = -500;
-        const int top = slider()->maximum();
-        m_panel->setNode(wide);
-        QVERIFY(slider()->minimum() < 0);
-        m_panel->setNode(*m_cone);
-        QCOMPARE(slider()->minimum(), 0);
-        QCOMPARE(slider()->maximum(), top);
+        const Ref<SoSphere> last;
+        const QMetaObject::Connection asking = connect(qApp, &QApplication::focusChanged, this, [&](QWidget *old) {
+            if (old)
+                m_panel->setNode(last);
+        });
+        retype(height(), "7");
+        m_panel->setNode(Ref<SoCube>());
+        disconnect(asking);
+        QCOMPARE((*m_cone)->height.getValue(), 7.0f);
+        QVERIFY(m_panel->editorOf("radius") && !m_panel->editorOf("width"));
+        enter(control<QLineEdit>("Sphere.radius"), "3");
+        QCOMPARE(last->radius.getValue(), 3.0f);
+    }
+
+    void pageThatDiesWithTheFocus()
+    {
+        const Ref<SoMatrixTransform> node;
+        m_panel->setNode(node);
+        auto *const grid = m_panel->editorOf("matrix")->findChild<QFrame *>("m_popupFrame");
+        grid->show();
+        const auto numbers = grid->findChildren<QLineEdit *>();
+        retype(numbers[0], "-");
+        retype(numbers[1], "-"); // which nobody has refused yet when it dies
+        m_panel->setNode(nullptr);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QCOMPARE(m_stack->count(), 0);
+    }
+
+    void handleStandsWhereTheValueIs()
+    {
+        const auto share = [this] {
+            const double span = double(slider()->maximum()) - slider()->minimum();
+            return qRound(100 * (slider()->value() - slider()->minimum()) / span);
+        };
+        const struct {
+            float value;
+            int share;
+        } heights[] = {{2, 40}, {-500, 25}, {3e9f, 30}, {-6e-20f, 35}, {0, 0}, {FLT_MAX, 100}, {2, 40}};
+        for (const auto &height : heights) {
+            const Ref<SoCone> node;
+            node->height = height.value;
+            m_panel->setNode(node);
+            QCOMPARE(share(), height.share);
+        }
     }
 
     void unfocusedWheelScrolls()
@@ -119,6 +159,35 @@ private Q_SLOTS:
         for (const char *const refused : {"height", "=b.png"}) {
             QVERIFY(!parse({"--grab", refused}));
             QCOMPARE(exitCode, int(BadUsage));
+        }
+    }
+
+    void everyFieldTypeHasItsEditor()
+    {
+        const QByteArrayList own{"SFBool",   "SFBox3s", "SFColor",    "SFFloat",  "SFImage",  "SFInt32",  "SFMatrix",
+                                 "SFName",   "SFPlane", "SFRotation", "SFShort",  "SFString", "SFUInt32", "SFUShort",
+                                 "SFVec2f",  "SFVec2s", "SFVec3f",    "SFVec4f",  "MFColor",  "MFFloat",  "MFInt32",
+                                 "MFMatrix", "MFPlane", "MFShort",    "MFString", "MFUInt32", "MFUShort", "MFVec2f",
+                                 "MFVec2s",  "MFVec3f", "MFVec4f"};
+        SoTypeList types;
+        SoType::getAllDerivedFrom(SoField::getClassTypeId(), types);
+        for (int i = 0; i < types.getLength(); ++i) {
+            if (!types[i].canCreateInstance())
+                continue;
+            const QByteArray name = types[i].getName().getString();
+            show(name + " value");
+            const QByteArray type = field<SoField>()->getTypeId().getName().getString(); // not of an alias
+            const bool isMany = field<SoField>()->isOfType(SoMField::getClassTypeId());
+            const QString editor = own.contains(type) ? "Hb" + type + "Widget" : "HbMFDefaultFieldWidget";
+            QVERIFY2((!isMany && !own.contains(type)) || m_panel->findChild<QFrame *>(editor), name.constData());
+            if (!isMany)
+                continue;
+            const int count = field<SoMField>()->getNum();
+            m_panel->findChild<QPushButton *>("m_addButton")->click();
+            QCOMPARE(field<SoMField>()->getNum(), count + 1);
+            m_stack->undo();
+            QCOMPARE(field<SoMField>()->getNum(), count);
+            m_panel->setNode(nullptr);
         }
     }
 

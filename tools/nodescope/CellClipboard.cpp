@@ -4,15 +4,16 @@
 #include "CellClipboard.h"
 
 #include "CellText.h"
+#include "ExactNumbers.h"
 #include "FieldRows.h"
 #include "OneNotification.h"
 
-#include <HbMFColorTable.h>
+#include <HbMFieldTable.h>
 #include <HbMFieldWidget.h>
 
 #include <QClipboard>
 #include <QGuiApplication>
-#include <QKeyEvent>
+#include <QMimeData>
 
 #include <Inventor/SbMatrix.h>
 #include <Inventor/fields/SoMFMatrix.h>
@@ -28,6 +29,20 @@
 namespace
 {
 constexpr QLatin1Char space(' ');
+constexpr QLatin1Char tab('\t');
+constexpr QLatin1Char newLine('\n');
+
+/// What this program has copied, while nobody else has copied something.
+class CopiedCells : public QMimeData
+{
+public:
+    std::shared_ptr<SoMField> rows; ///< to the bit; null where no whole rows were copied
+};
+
+const CopiedCells *copiedCells()
+{
+    return dynamic_cast<const CopiedCells *>(QGuiApplication::clipboard()->mimeData());
+}
 
 /// The numbers of which a text consists, none if there is anything else in it.
 std::vector<double> numbersOf(const QString &text)
@@ -46,23 +61,6 @@ std::vector<double> numbersOf(const QString &text)
     return numbers;
 }
 
-bool areWhole(const std::vector<double> &numbers)
-{
-    constexpr double most = 9e15; // that a double tells apart
-    return !numbers.empty() && std::all_of(numbers.begin(), numbers.end(), [](double number) {
-        return std::abs(number) < most && std::floor(number) == number;
-    });
-}
-
-/// As every editor of whole numbers reads them, where a spreadsheet may have written "5.00" or "1e3".
-QString inDigits(const std::vector<double> &numbers)
-{
-    QStringList words;
-    for (const double number : numbers)
-        words += QString::number(static_cast<qint64>(number));
-    return words.join(space);
-}
-
 /// Whether a text of six digits may tell both, as it does of a number in single precision.
 bool isRounded(double exact, double rounded)
 {
@@ -73,47 +71,91 @@ bool isRounded(double exact, double rounded)
 }
 } // namespace
 
-int componentOf(const QTableWidget &table, int column)
+/// The numbers that a text means, as every editor reads them; a text that is none as it is.
+std::optional<QString> CellClipboard::Reader::plain(const QString &text)
 {
-    return qobject_cast<const HbMFColorTable *>(&table) ? column - 1 : column;
+    if (form.kind == NumberForm::Kind::None)
+        return text;
+    const NumberForm::Reading reading = form.read(text);
+    if (reading.isReadable())
+        return reading.text;
+    if (refusal.isEmpty())
+        refusal = reading.error;
+    return std::nullopt;
 }
 
 CellClipboard::CellClipboard(HbMFieldWidget &widget, HbMFieldTable &table) : m_widget(widget), m_table(table) { }
-
-bool CellClipboard::isCopy(const QKeyEvent &key)
-{
-    return key.key() == Qt::Key_C && key.modifiers() & Qt::ControlModifier; // with Shift too, which selects
-}
-
-bool CellClipboard::isPaste(const QKeyEvent &key)
-{
-    return key.matches(QKeySequence::Paste);
-}
 
 bool CellClipboard::isOfMatrices() const
 {
     return m_widget.editedField()->isOfType(SoMFMatrix::getClassTypeId());
 }
 
+/// The texts of a row's components, in all their digits.
+QStringList CellClipboard::textsOf(int row) const
+{
+    const SoMField &field = *m_widget.editedField();
+    const QStringList exact = FieldRows::numberTexts(field, row);
+    const int count = CellSelection::componentCount(m_table);
+    if (isOfMatrices() || exact.size() == count)
+        return exact;
+    const bool isTurn = field.isOfType(SoMFRotation::getClassTypeId()); // whose text is no quaternion
+    if (count == 1)
+        return {exact.isEmpty() || isTurn ? m_widget.getFieldValue(row, 0) : exact.join(space)};
+    QStringList texts;
+    for (int component = 0; component < count; ++component)
+        texts += m_widget.getFieldValue(row, component);
+    return texts;
+}
+
+QString CellClipboard::textOf(const std::vector<CellSelection::Block> &blocks) const
+{
+    const std::vector<int> components = CellSelection::components(blocks);
+    const auto isSelected = [&](int row, int component) {
+        return std::any_of(blocks.begin(), blocks.end(), [&](const CellSelection::Block &block) {
+            return row >= block.rows.top && row <= block.rows.bottom && component >= block.left
+                && component <= block.right;
+        });
+    };
+    QString text;
+    for (const CellSelection::Rows &rows : CellSelection::rows(blocks)) {
+        for (int row = rows.top; row <= rows.bottom; ++row) {
+            const QStringList texts = textsOf(row);
+            QStringList cells;
+            for (const int component : components)
+                cells += isSelected(row, component) ? CellText::written(texts.value(component)) : QString();
+            text += (isOfMatrices() ? texts : cells).join(tab) + newLine;
+        }
+    }
+    text.chop(1);
+    return text;
+}
+
+/// Null if parts of rows are selected, or values that hold others alive.
+std::shared_ptr<SoMField> CellClipboard::wholeRows(const std::vector<CellSelection::Block> &blocks) const
+{
+    const int last = CellSelection::componentCount(m_table) - 1;
+    const SoMField &field = *m_widget.editedField();
+    const bool areWhole = std::all_of(blocks.begin(), blocks.end(), [last](const CellSelection::Block &block) {
+        return block.left == 0 && block.right == last;
+    });
+    if (!areWhole || !FieldRows::areValues(field))
+        return nullptr;
+    const auto all = FieldRows::zeros(field, 0);
+    for (const CellSelection::Rows &rows : CellSelection::rows(blocks))
+        FieldRows::replace(*all, all->getNum(), 0, *FieldRows::copy(field, rows.top, rows.count()));
+    return all;
+}
+
 void CellClipboard::copy() const
 {
-    const QList<QTableWidgetSelectionRange> ranges = m_table.selectedRanges();
-    const QModelIndex current = m_table.currentIndex();
-    if (!m_widget.editedField() || (ranges.isEmpty() && !current.isValid()))
+    const std::vector<CellSelection::Block> blocks = CellSelection::blocks(m_table);
+    if (!m_widget.editedField() || blocks.empty())
         return;
-    const QTableWidgetSelectionRange range = ranges.isEmpty()
-        ? QTableWidgetSelectionRange(current.row(), current.column(), current.row(), current.column())
-        : ranges.first();
-    Cells cells;
-    for (int row = range.topRow(); row <= range.bottomRow(); ++row) {
-        cells.append(QStringList());
-        for (int column = range.leftColumn(); column <= range.rightColumn(); ++column)
-            if (componentOf(m_table, column) >= 0)
-                cells.last() += m_widget.getFieldValue(row, componentOf(m_table, column));
-        if (isOfMatrices())
-            cells.last() = cells.last().join(space).split(space);
-    }
-    QGuiApplication::clipboard()->setText(CellText::join(cells));
+    auto *const cells = new CopiedCells;
+    cells->rows = wholeRows(blocks);
+    cells->setText(textOf(blocks));
+    QGuiApplication::clipboard()->setMimeData(cells);
 }
 
 bool CellClipboard::isOfTexts() const
@@ -138,59 +180,66 @@ bool CellClipboard::isMeant(const QString &shown, const QString &text, const std
 }
 
 /// Decides by the result, since editors and Coin's parsers refuse in silence, or take the half of it.
-bool CellClipboard::writeCell(int row, int column, const QString &text) const
+bool CellClipboard::writeCell(int row, int column, const QString &text, Reader &reader) const
 {
     SoMField &field = *m_widget.editedField();
     const QString shown = m_widget.getFieldValue(row, column);
-    if (shown == text) // else with the bits that its text does not tell
+    const bool isSame = textsOf(row).value(column) == text;
+    if (isSame || (shown == text && !copiedCells())) // else with the bits that its text does not tell
         return true;
-    const std::vector<double> numbers = isOfTexts() ? std::vector<double>() : numbersOf(text);
+    const std::optional<QString> plain = reader.plain(text);
+    if (!plain)
+        return false;
+    const std::vector<double> numbers = isOfTexts() ? std::vector<double>() : numbersOf(*plain);
     if (!isOfTexts() && numbers.empty() && !numbersOf(shown).empty())
         return false; // some editors would make it 0
     const auto before = FieldRows::copy(field, row, 1);
     field.setDefault(TRUE); // until it is written: it is silent
-    m_widget.set1Value(row, column, FieldRows::areWhole(field) && areWhole(numbers) ? inDigits(numbers) : text);
-    if (!field.isDefault() && isMeant(m_widget.getFieldValue(row, column), text, numbers))
+    m_widget.set1Value(row, column, *plain);
+    ExactNumbers::mend(field, row, *before, shown, *plain);
+    if (!field.isDefault() && isMeant(m_widget.getFieldValue(row, column), *plain, numbers))
         return true;
     FieldRows::replace(field, row, 1, *before);
     return false;
 }
 
-bool CellClipboard::writeMatrix(int row, const QStringList &numbers) const
+bool CellClipboard::writeMatrix(int row, const QStringList &numbers, Reader &reader) const
 {
     auto &matrices = static_cast<SoMFMatrix &>(*m_widget.editedField());
-    const QStringList shown = m_widget.getFieldValue(row, 0).split(space);
-    if (numbers.size() != shown.size())
+    const QStringList held = textsOf(row);
+    if (numbers.size() != held.size())
         return false;
     SbMatrix value = matrices[row];
     for (int i = 0; i < numbers.size(); ++i) {
-        bool isNumber = true;
-        if (numbers[i] != shown[i]) // else with the bits that its text does not tell
-            value[i / 4][i % 4] = numbers[i].toFloat(&isNumber);
-        if (!isNumber)
+        float &number = value[i / 4][i % 4];
+        const bool isSame = numbers[i] == held[i] || (!copiedCells() && numbers[i] == QString::number(double(number)));
+        if (isSame)
+            continue; // with the bits that its text does not tell
+        const std::optional<QString> plain = reader.plain(numbers[i]);
+        if (!plain)
             return false;
+        number = plain->toFloat();
     }
     matrices.set1Value(row, value);
     return true;
 }
 
-CellClipboard::Taken CellClipboard::write(const Cells &cells, int top) const
+CellClipboard::Taken CellClipboard::write(const Cells &cells, int top, int left, Reader &reader) const
 {
     int taken = 0;
     int refused = 0;
-    const int left = qMax(componentOf(m_table, m_table.currentColumn()), 0);
-    const int columns = m_table.columnCount() - (componentOf(m_table, 0) < 0 ? 1 : 0);
+    const int columns = CellSelection::componentCount(m_table);
     for (int line = 0; line < cells.size(); ++line) {
         const int row = top + line;
         if (isOfMatrices()) {
-            ++(writeMatrix(row, cells[line].join(space).simplified().split(space)) ? taken : refused);
+            ++(writeMatrix(row, cells[line].join(space).simplified().split(space), reader) ? taken : refused);
             continue;
         }
         for (int i = 0; i < cells[line].size(); ++i) {
             const QString &text = cells[line][i];
             const bool isBeyond = left + i >= columns;
-            if (!isBeyond || !text.isEmpty())
-                ++(!isBeyond && writeCell(row, left + i, text) ? taken : refused);
+            if (!text.isEmpty() || (isOfTexts() && !isBeyond))
+                ++(!isBeyond && writeCell(row, left + i, text, reader) ? taken : refused);
         }
     }
     return taken == 0 ? Taken::Nothing : refused > 0 ? Taken::Some : Taken::All;
@@ -206,25 +255,35 @@ CellClipboard::Cells CellClipboard::read() const
     return cells;
 }
 
-CellClipboard::Pasted CellClipboard::paste() const
+CellClipboard::Pasted CellClipboard::paste(const NumberForm &form) const
 {
-    const Cells cells = read();
     SoMField &field = *m_widget.editedField();
-    const int top = qBound(0, m_table.currentRow(), field.getNum());
-    const int count = static_cast<int>(cells.size());
+    const QModelIndex start = CellSelection::start(m_table);
+    const int top = qBound(0, start.row(), field.getNum());
+    const int left = qMax(CellSelection::componentOf(m_table, start.column()), 0);
+    const CopiedCells *const copied = copiedCells();
+    const bool isExact = copied && copied->rows && copied->rows->getTypeId() == field.getTypeId() && left == 0;
+    const Cells cells = isExact ? Cells() : read();
+    const int count = isExact ? copied->rows->getNum() : static_cast<int>(cells.size());
     const bool wasDefault = field.isDefault();
     const auto before = FieldRows::copy(field, top, count);
+    Reader reader{isOfMatrices() ? form.component() : form, {}};
+    Taken taken = Taken::All;
     OneNotification once(field);
-    if (const int missing = count - before->getNum(); missing > 0)
-        FieldRows::replace(field, field.getNum(), 0, *FieldRows::zeros(field, missing));
-    const Taken taken = write(cells, top);
-    if (taken == Taken::Nothing)
-        FieldRows::replace(field, top, count, *before);
+    if (isExact) {
+        FieldRows::replace(field, top, before->getNum(), *copied->rows);
+    } else {
+        if (const int missing = count - before->getNum(); missing > 0)
+            FieldRows::replace(field, field.getNum(), 0, *FieldRows::zeros(field, missing));
+        taken = write(cells, top, left, reader);
+        if (taken == Taken::Nothing)
+            FieldRows::replace(field, top, count, *before);
+    }
     const auto after = FieldRows::copy(field, top, count);
     const bool isSame = FieldRows::areSame(*before, *after);
     if (isSame) {
         once.cancel();
         field.setDefault(wasDefault);
     }
-    return {{top, before, after}, !isSame, taken == Taken::All || cells.isEmpty()};
+    return {{top, before, after}, !isSame, taken == Taken::All || cells.isEmpty(), reader.refusal};
 }

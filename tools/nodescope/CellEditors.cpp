@@ -3,21 +3,26 @@
 
 #include "CellEditors.h"
 
+#include "SliderEdit.h"
+#include "TypedNumber.h"
 #include "UndoKeys.h"
 
 #include <HbSlider.h>
 
+#include <QChildEvent>
+#include <QCoreApplication>
 #include <QLineEdit>
-#include <QSignalBlocker>
-#include <QSlider>
+#include <QUndoStack>
 
 #include <algorithm>
-#include <utility>
 
-CellEditors::CellEditors(HbMFieldTable &table) : m_table(&table), m_viewport(table.viewport())
+CellEditors::CellEditors(HbMFieldTable &table, SliderTarget &target, QUndoStack *stack)
+    : m_table(&table), m_viewport(table.viewport()), m_target(target), m_stack(stack)
 {
     m_viewport->installEventFilter(this);
 }
+
+CellEditors::~CellEditors() = default;
 
 /// Where the table's editors are made is known only when they are there.
 void CellEditors::adopt()
@@ -27,49 +32,46 @@ void CellEditors::adopt()
     const auto edits = m_table->viewport()->findChildren<QLineEdit *>();
     for (QLineEdit *const edit : edits)
         edit->installEventFilter(this); // one that is installed already moves to the front
-    const auto sliders = m_table->viewport()->findChildren<QSlider *>();
-    for (const QSlider *const slider : sliders) {
-        connect(slider, &QSlider::sliderPressed, this, &CellEditors::sliderPressed, Qt::UniqueConnection);
-        connect(slider, &QSlider::actionTriggered, this, &CellEditors::expectStep, Qt::UniqueConnection);
-        connect(slider, &QSlider::valueChanged, this, &CellEditors::sliderMoved, Qt::UniqueConnection);
-    }
+    const auto isDead = [](const auto &edit) { return !edit->slider(); };
+    m_sliders.erase(std::remove_if(m_sliders.begin(), m_sliders.end(), isDead), m_sliders.end());
+    const auto sliders = m_table->viewport()->findChildren<HbSlider *>();
+    for (HbSlider *const slider : sliders)
+        adoptSlider(*slider);
     Q_EMIT changed();
 }
 
-void CellEditors::expectStep()
+void CellEditors::adoptSlider(HbSlider &slider)
 {
-    const auto &slider = static_cast<const QSlider &>(*sender());
-    m_isStep = slider.sliderPosition() != slider.value();
-}
-
-/// By the user, by a text that is typed, or because the field has changed.
-void CellEditors::sliderMoved()
-{
-    const auto &slider = static_cast<const QSlider &>(*sender());
-    const bool isStep = std::exchange(m_isStep, false);
-    if (slider.isSliderDown()) {
-        Q_EMIT sliderDragged();
+    const auto isSame = [&](const auto &edit) { return edit->slider() == &slider; };
+    if (!m_stack || std::any_of(m_sliders.begin(), m_sliders.end(), isSame))
         return;
-    }
-    const auto *const cell = qobject_cast<const HbSlider *>(slider.parentWidget());
-    Q_EMIT sliderStepped(isStep && cell && !cell->isChecked() ? cell->getText() : QString());
+    m_sliders.push_back(std::make_unique<SliderEdit>(slider, m_target, m_stack));
+    m_sliders.back()->show([] {});
 }
 
-bool CellEditors::isDragging() const
+void CellEditors::beginSeries()
 {
-    if (!m_table)
-        return false;
-    const auto sliders = m_table->viewport()->findChildren<QSlider *>();
-    return std::any_of(sliders.begin(), sliders.end(), [](const QSlider *slider) { return slider->isSliderDown(); });
+    for (const auto &slider : m_sliders)
+        slider->beginSeries();
+}
+
+void CellEditors::refresh()
+{
+    for (const auto &slider : m_sliders)
+        slider->show([] {});
+}
+
+void CellEditors::letGo()
+{
+    for (const auto &slider : m_sliders)
+        slider->letGo();
 }
 
 void CellEditors::finish()
 {
     if (!m_table)
         return;
-    const auto sliders = m_table->viewport()->findChildren<QSlider *>();
-    for (QSlider *const slider : sliders)
-        slider->setSliderDown(false); // which reports the drag
+    letGo();
     m_table->finishEditing();
 }
 
@@ -79,21 +81,32 @@ bool CellEditors::drop()
         return true;
     const auto edits = m_table->viewport()->findChildren<QLineEdit *>();
     const bool isTyped = std::any_of(edits.begin(), edits.end(), [](const QLineEdit *e) { return e->isModified(); });
+    for (const auto &slider : m_sliders)
+        slider->abandon();
     const auto editors = m_table->viewport()->findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly);
-    for (QWidget *const editor : editors) {
-        if (auto *const slider = editor->findChild<QSlider *>()) {
-            const QSignalBlocker quiet(slider);
-            slider->setSliderDown(false);
-        }
+    for (QWidget *const editor : editors)
         Q_EMIT m_table->itemDelegate()->closeEditor(editor, QAbstractItemDelegate::RevertModelCache);
-    }
     return !isTyped;
+}
+
+/// Tab in a slider's edit goes on to the next cell, as in one that is an edit only.
+bool CellEditors::passToSlider(QObject *edit, QEvent &event)
+{
+    auto *const slider = qobject_cast<HbSlider *>(edit->parent());
+    const bool isTab = event.type() == QEvent::KeyPress && static_cast<QKeyEvent &>(event).key() == Qt::Key_Tab;
+    if (!slider || !isTab)
+        return false;
+    auto *const number = edit->findChild<TypedNumber *>();
+    return (number && !number->settle()) || QCoreApplication::sendEvent(slider, &event);
 }
 
 bool CellEditors::eventFilter(QObject *watched, QEvent *event)
 {
     if (watched != m_viewport)
-        return leaveToApplication(*event);
+        return leaveToApplication(*event) || passToSlider(watched, *event);
+    if (event->type() == QEvent::ChildPolished)
+        if (auto *const editor = qobject_cast<QWidget *>(static_cast<QChildEvent *>(event)->child()))
+            Q_EMIT made(editor);
     if (event->type() == QEvent::ChildAdded || event->type() == QEvent::ChildRemoved)
         QMetaObject::invokeMethod(this, &CellEditors::adopt, Qt::QueuedConnection);
     return false;

@@ -9,39 +9,53 @@
 #include <QObject>
 #include <QPointer>
 
+#include <memory>
+#include <vector>
+
+class HbSlider;
+class QUndoStack;
+class SliderEdit;
+class SliderTarget;
+
 /// The editors that are open in the cells of a table. They leave undo keys to the application.
 class CellEditors : public QObject
 {
     Q_OBJECT
 
 public:
-    explicit CellEditors(HbMFieldTable &table);
+    /// The sliders among them set @p target.
+    CellEditors(HbMFieldTable &table, SliderTarget &target, QUndoStack *stack);
+    ~CellEditors() override;
 
-    /// Whether the handle of a slider is held.
-    bool isDragging() const;
-    /// Lets go of a slider, commits what is being typed, and closes.
+    /// Ends the drag of a slider.
+    void letGo();
+    /// Ends a drag, commits what is being typed, and closes.
     void finish();
     /// Closes without a commit. False if a text was being typed.
     bool drop();
+    /// Steps to come make no one step with those before.
+    void beginSeries();
+    /// Fits the sliders to their values.
+    void refresh();
 
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 Q_SIGNALS:
     /// Some were opened or closed.
     void changed();
-    void sliderPressed();
-    void sliderDragged();
-    /// A step by key, wheel or groove. @p unwritten is what the slider then shows only: its box is off.
-    void sliderStepped(const QString &unwritten);
+    /// One is there, all but shown.
+    void made(QWidget *editor);
 
 private:
     void adopt();
-    void expectStep();
-    void sliderMoved();
+    void adoptSlider(HbSlider &slider);
+    static bool passToSlider(QObject *edit, QEvent &event);
 
     QPointer<HbMFieldTable> m_table;
     QObject *m_viewport; ///< of the table, which is not asked while it dies
-    bool m_isStep = false; ///< the user makes the slider's next move
+    SliderTarget &m_target;
+    QPointer<QUndoStack> m_stack;
+    std::vector<std::unique_ptr<SliderEdit>> m_sliders;
 };
 
 #endif

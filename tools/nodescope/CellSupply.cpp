@@ -3,7 +3,7 @@
 
 #include "CellSupply.h"
 
-#include "CellClipboard.h"
+#include "CellSelection.h"
 
 #include <HbMFieldTable.h>
 #include <HbMFieldWidget.h>
@@ -29,7 +29,7 @@ void CellSupply::supply()
     m_supplied = cell;
     if (!cell.isValid() || isInUse(cell))
         return;
-    const QString text = m_widget.getFieldValue(cell.row(), componentOf(m_table, cell.column()));
+    const QString text = m_widget.getFieldValue(cell.row(), CellSelection::componentOf(m_table, cell.column()));
     if (cell.data(Qt::EditRole).toString() != text)
         m_table.model()->setData(cell, text, Qt::EditRole);
 }

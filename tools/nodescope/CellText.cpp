@@ -10,25 +10,13 @@ namespace
 constexpr QLatin1Char quote('"');
 constexpr QLatin1Char tab('\t');
 constexpr QLatin1Char newLine('\n');
+} // namespace
 
-QString written(QString cell)
+QString CellText::written(QString cell)
 {
     if (!cell.contains(tab) && !cell.contains(newLine) && !cell.contains(quote))
         return cell;
     return quote + cell.replace(quote, QLatin1String("\"\"")) + quote;
-}
-} // namespace
-
-QString CellText::join(const QVector<QStringList> &rows)
-{
-    QStringList lines;
-    for (const QStringList &row : rows) {
-        QStringList cells;
-        for (const QString &cell : row)
-            cells += written(cell);
-        lines += cells.join(tab);
-    }
-    return lines.join(newLine);
 }
 
 QVector<QStringList> CellText::split(const QString &text)

@@ -10,8 +10,8 @@
 /// Cells as text for the clipboard: tabs between them, rows on lines, as spreadsheets have it.
 namespace CellText
 {
-/// In quotes where a cell holds a tab, a new line or a quote.
-QString join(const QVector<QStringList> &rows);
+/// A cell, in quotes where it holds a tab, a new line or a quote.
+QString written(QString cell);
 QVector<QStringList> split(const QString &text);
 } // namespace CellText
 

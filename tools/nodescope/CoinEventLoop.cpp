@@ -4,12 +4,28 @@
 #include "CoinEventLoop.h"
 
 #include <Inventor/SoDB.h>
+#include <Inventor/fields/SoFieldContainer.h>
+#include <Inventor/fields/SoSFBool.h>
 #include <Inventor/fields/SoSFTime.h>
 #include <Inventor/lists/SoFieldList.h>
 #include <Inventor/sensors/SoSensorManager.h>
 
 #include <algorithm>
 #include <cmath>
+
+namespace
+{
+/// Whether a node or an engine of the clock's kind is told to stand still.
+bool isSwitchedOff(const SoFieldContainer *container)
+{
+    for (const char *name : {"on", "enabled"}) {
+        const SoField *field = container ? container->getField(name) : nullptr;
+        if (field && field->isOfType(SoSFBool::getClassTypeId()))
+            return !static_cast<const SoSFBool *>(field)->getValue();
+    }
+    return false;
+}
+} // namespace
 
 CoinEventLoop::CoinEventLoop(QObject *parent) : QObject(parent)
 {
@@ -33,7 +49,9 @@ CoinEventLoop::~CoinEventLoop()
 void CoinEventLoop::updateClock()
 {
     SoFieldList listeners;
-    const bool needed = SoDB::getGlobalField("realTime")->getForwardConnections(listeners) > 0;
+    bool needed = false;
+    for (int i = SoDB::getGlobalField("realTime")->getForwardConnections(listeners); i-- > 0 && !needed;)
+        needed = !isSwitchedOff(listeners[i]->getContainer());
     if (needed != s_clockRuns)
         SoDB::enableRealTimeSensor(needed);
     s_clockRuns = needed;

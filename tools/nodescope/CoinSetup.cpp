@@ -3,6 +3,9 @@
 
 #include "CoinSetup.h"
 
+#include "SceneCameras.h"
+#include "TickingRotor.h"
+#include "ViewPickAction.h"
 #include "ViewRenderAction.h"
 
 #include <Inventor/SoInteraction.h>
@@ -21,4 +24,7 @@ void setUpCoin(bool allowNodeLibraries)
     SoInteraction::init();
     SoBaseKit::setSearchingChildren(TRUE); // a camera or light inside a kit counts
     ViewRenderAction::initClass();
+    ViewPickAction::initClass();
+    passOverSceneCameras();
+    TickingRotor::replaceRotor();
 }

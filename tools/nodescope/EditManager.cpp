@@ -4,90 +4,112 @@
 #include "EditManager.h"
 
 #include "EditorTable.h"
+#include "ExactNumbers.h"
 #include "FieldCommand.h"
 #include "FieldText.h"
 #include "IgnoreCommand.h"
+#include "KeptImages.h"
+#include "KeptSelection.h"
+#include "MaskTicks.h"
+#include "NodeOrigin.h"
+#include "ReadableLine.h"
+#include "ShownNumbers.h"
 #include "UntouchedParts.h"
 #include "WriteWatch.h"
 
 #include <HbFieldEditors.h>
+#include <HbPopupWidget.h>
 #include <HbSFBitMaskWidget.h>
+#include <HbSlider.h>
 
-#include <QCheckBox>
-#include <QEvent>
 #include <QLineEdit>
 #include <QScopedValueRollback>
-#include <QSlider>
 #include <QUndoStack>
 
 #include <Inventor/SbString.h>
-#include <Inventor/fields/SoField.h>
+#include <Inventor/fields/SoSFEnum.h>
+#include <Inventor/fields/SoSFRotation.h>
 
+#include <algorithm>
 #include <utility>
 
-EditManager::EditManager(QUndoStack *stack, QObject *parent)
-    : HbFieldEditorCommandManager(parent), m_stack(stack), m_series(FieldCommand::newSeries())
+EditManager::EditManager(QUndoStack *stack, QObject *parent) : HbFieldEditorCommandManager(parent), m_stack(stack)
 {
+    connect(&m_typing, &TypedNumbers::refused, this, [this](const QString &why) {
+        if (m_field)
+            Q_EMIT message(QStringLiteral("%1: %2").arg(FieldText::qualifiedName(*m_field), why));
+    });
+    connect(&m_typing, &TypedNumbers::dropped, this, &EditManager::refresh);
+    connect(&m_typing, &TypedNumbers::stepped, this, &EditManager::commitStep);
+}
+
+EditManager::~EditManager()
+{
+    m_slider.reset();
 }
 
 void EditManager::setEditor(HbFieldEditors *editor)
 {
     m_editor = editor;
     m_frame = editor;
-    m_slider = editor->findChild<QSlider *>();
-    m_edit = editor->findChild<QLineEdit *>();
     m_isStandard = EditorTable::isStandard(*editor);
     auto *const line = editor->findChild<QLineEdit *>(QStringLiteral("lineEdit"));
     if (m_isStandard && line && line->isEnabled())
         m_line = line;
-    m_isMask = m_isStandard && dynamic_cast<HbSFBitMaskWidget *>(editor);
-    if (m_isMask) {
-        const auto boxes = editor->findChildren<QCheckBox *>();
-        for (const QCheckBox *const box : boxes) // writes the field itself, in a connection made earlier
-            connect(box, &QCheckBox::clicked, this, &EditManager::maskClicked);
+    if (auto *const popup = dynamic_cast<HbPopupWidget *>(editor))
+        new ReadableLine(*popup);
+    if (auto *const mask = dynamic_cast<HbSFBitMaskWidget *>(editor); m_isStandard && mask) {
+        m_mask = new MaskTicks(*mask);
+        connect(m_mask, &MaskTicks::clicked, this, &EditManager::maskClicked);
     }
-    if (!m_slider)
-        return;
-    // connected after the library's own connections: its slots have run when these do, but for the first
-    connect(m_slider, &QSlider::actionTriggered, this, [this] {
-        if (!isHeld())
-            remember();
-    });
-    connect(m_slider, &QSlider::valueChanged, this, &EditManager::sliderStepped);
-    connect(m_slider, &QSlider::sliderPressed, this, &EditManager::hold);
-    connect(m_stack, &QUndoStack::indexChanged, this, [this] {
-        if (isHeld() && m_dragged && m_field && !m_dragged->isSameValue(FieldSnapshot(*m_field)))
-            remember(); // undone in the middle of a drag: the drag starts from here
-    });
-    m_slider->installEventFilter(this);
+    SliderTarget &value = *this;
+    if (auto *const slider = editor->findChild<HbSlider *>())
+        m_slider = std::make_unique<SliderEdit>(*slider, value, m_stack);
+}
+
+void EditManager::fitSliders()
+{
+    m_fitsSliders = true;
+    refresh();
 }
 
 void EditManager::setField(SoField *field)
 {
-    m_hold.reset();
-    m_series = FieldCommand::newSeries();
+    if (m_slider)
+        m_slider->startAnew();
     m_field = field;
-    m_before.reset();
     m_editor->setField(field);
+    if (field && m_isStandard && !std::exchange(m_isTypingReady, true))
+        m_typing.adopt(*m_editor, *field);
+    if (m_numbers)
+        m_numbers->show(nullptr);
+    else if (m_isStandard && ShownNumbers::canShow(field))
+        m_numbers = new ShownNumbers(*m_editor);
 }
 
 void EditManager::refresh()
 {
     const QScopedValueRollback<bool> guard(m_refreshing, true);
-    // a mask's boxes stay as they were clicked: bits of several boxes would come back with any of them
-    if (m_field && m_isStandard && !(m_isMask && m_before && m_before->isSameValue(FieldSnapshot(*m_field))))
+    const KeptSelection selection;
+    if (m_field && m_isStandard)
         EditorTable::renew(*m_editor, *m_field);
-    m_editor->refresh();
+    if (m_slider)
+        m_slider->show([this] { m_editor->refresh(); });
+    else
+        m_editor->refresh();
+    if (m_mask && m_field)
+        m_mask->show(static_cast<const SoSFEnum &>(*m_field));
+    if (m_numbers)
+        m_numbers->show(m_field);
+    m_typing.keepValidators();
     if (m_line)
         m_shownLine = m_line->text();
-    remember();
 }
 
-/// A drag that ends with its editor counts like any other.
-EditManager::~EditManager()
+void EditManager::letGo()
 {
-    if (isHeld() && m_field && m_stack && m_before)
-        record(*m_before, FieldCommand::noSeries);
+    if (m_slider)
+        m_slider->letGo();
 }
 
 bool EditManager::isListening() const
@@ -95,29 +117,44 @@ bool EditManager::isListening() const
     return m_field && m_stack && m_frame && !m_refreshing;
 }
 
-/// Where the field cannot be edited: says why, and takes back what the slider wrote on the way.
-bool EditManager::refuse(const FieldSnapshot &before)
+/// A drag that goes on would be recorded after what was done in its midst.
+bool EditManager::isCommanded()
+{
+    if (isListening())
+        letGo();
+    return isListening();
+}
+
+bool EditManager::refuse()
 {
     const QString obstacle = FieldText::obstacle(*m_field);
     if (obstacle.isEmpty())
         return false;
-    before.restore(*m_field);
     refresh();
     Q_EMIT message(obstacle);
     return true;
 }
 
+/// Where nothing of the node is saved; what comes in by a connection can be ignored.
+bool EditManager::refuseForeign()
+{
+    return NodeOrigin::of(m_field->getContainer()).kind != NodeOrigin::Scene && refuse();
+}
+
 void EditManager::edit(const FieldSnapshot &before, const std::function<void()> &write)
 {
-    if (refuse(before))
+    if (refuse())
         return;
     const OwnEdit own;
     const std::vector<FieldState> images = imagesBeside(*m_field);
     const WriteWatch watch(*m_field);
-    write();
+    {
+        const KeptImages kept(*m_field);
+        write();
+    }
     const bool isAccepted = watch.isWritten();
     if (isAccepted)
-        record(before, FieldCommand::noSeries, images);
+        record(before, m_editSeries, images);
     else
         before.restore(*m_field);
     refresh(); // at once, so that an edit that reports twice is heard once
@@ -144,34 +181,68 @@ void EditManager::record(const FieldSnapshot &before, int series, const std::vec
 
 void EditManager::sfieldSetValue(SbString *previousData)
 {
-    const std::unique_ptr<SbString> dragged(previousData); // its text is rounded; ours is the exact value
-    const OwnEdit own;
-    m_hold.reset();
-    if (!isListening())
+    delete previousData; // its text is rounded
+    if (!isCommanded())
         return;
-    const FieldSnapshot before = dragged && m_before ? *m_before : FieldSnapshot(*m_field);
-    if (dragged && m_slider && m_slider->value() == m_positionBefore) {
-        before.restore(*m_field); // the way there and back has rounded it
-        refresh();
+    if (!m_typing.settle())
         return;
-    }
     if (m_line && m_line->text() == m_shownLine) {
         refresh(); // its text may tell less than the value
         return;
     }
-    edit(before, [this, &before] {
+    if (m_numbers && m_field->isOfType(SoSFRotation::getClassTypeId())) {
+        editRotation();
+        return;
+    }
+    const FieldSnapshot before(*m_field);
+    const QString shown = m_shownLine;
+    const QString typed = m_line ? m_line->text() : QString();
+    edit(before, [&] {
         m_editor->applyChanges();
         if (m_isStandard)
             keepUntouchedParts(*m_editor, before.value(), *m_field);
+        if (m_line)
+            ExactNumbers::mend(*m_field, before.value(), shown, typed);
     });
+}
+
+/// Apart from the editor, whose way through axis and angle changes digits that nobody touched.
+void EditManager::editRotation()
+{
+    const NumberParts::Numbers shown = m_numbers->numbers();
+    const NumberParts::Numbers typed = numbersIn(*m_editor, shown);
+    if (typed.empty())
+        return;
+    const bool hasAxis = std::any_of(typed.begin(), typed.end() - 1, [](float number) { return number != 0; });
+    if (typed == shown || !hasAxis)
+        refresh();
+    if (!hasAxis)
+        Q_EMIT message(tr("%1: the axis of a rotation cannot be 0 0 0.").arg(FieldText::qualifiedName(*m_field)));
+    else if (typed != shown)
+        edit(FieldSnapshot(*m_field), [&] {
+            NumberParts::set(*m_field, typed);
+            m_numbers->keep(typed);
+        });
+}
+
+void EditManager::commitStep(TypedNumber *number)
+{
+    const QScopedValueRollback<int> series(m_editSeries, number->series());
+    number->commit();
+}
+
+void EditManager::setValue(const SoField &value)
+{
+    if (isCommanded())
+        edit(FieldSnapshot(*m_field), [this, &value] { m_field->copyFrom(value); });
 }
 
 void EditManager::fieldSetDefaultValue()
 {
-    if (!isListening())
+    if (!isCommanded())
         return;
     const FieldSnapshot before(*m_field);
-    if (refuse(before))
+    if (refuse())
         return;
     auto fresh = FieldSnapshot::ofDefault(*m_field);
     if (!fresh) {
@@ -181,17 +252,22 @@ void EditManager::fieldSetDefaultValue()
     fresh->setIgnored(before.isIgnored());
     if (*fresh == before)
         return;
-    fresh->restore(*m_field);
-    m_stack->push(new FieldCommand(*m_field, before, *fresh, FieldCommand::noSeries));
+    const std::vector<FieldState> images = imagesBeside(*m_field);
+    {
+        const KeptImages kept(*m_field);
+        fresh->restore(*m_field);
+    }
+    auto command = std::make_unique<FieldCommand>(*m_field, before, *fresh, FieldCommand::noSeries);
+    command->setImagesBefore(images);
+    m_stack->push(command.release());
     refresh();
 }
 
 void EditManager::fieldSetIgnored(bool ignored)
 {
-    if (!isListening() || bool(m_field->isIgnored()) == ignored)
+    if (!isCommanded() || bool(m_field->isIgnored()) == ignored || refuseForeign())
         return;
-    m_field->setIgnored(ignored); // Coin notifies, so the picture follows
-    m_stack->push(new IgnoreCommand(*m_field));
+    m_stack->push(new IgnoreCommand(*m_field, ignored));
     refresh();
 }
 
@@ -206,78 +282,62 @@ void EditManager::mfieldSet1Value(int, int, QString, SbString *previousData)
 }
 void EditManager::mfieldSetValue(int, const void *) { }
 
-void EditManager::remember()
+std::optional<double> EditManager::slidNumber(const HbSlider &) const
 {
-    if (!m_field || !(m_slider || m_isMask))
-        return;
-    m_dragged = m_before.emplace(*m_field);
-    if (m_slider)
-        m_positionBefore = m_slider->value();
+    return m_field ? SliderRanges::numberIn(*m_field) : std::nullopt;
 }
 
-void EditManager::hold()
+std::optional<SliderSpan> EditManager::slidSpan(double number) const
 {
-    if (!isHeld()) {
-        m_hold.emplace();
-        remember();
-    }
+    if (!m_fitsSliders)
+        return std::nullopt;
+    return SliderRanges::spanFor(*m_field, number);
 }
 
-/// Ends a press beside the handle; the end of a drag comes as a command.
-void EditManager::letGo()
+bool EditManager::beginSlide(const HbSlider &)
 {
-    if (isHeld() && !m_slider->isSliderDown()) {
-        m_hold.reset();
-        sliderStepped();
-    }
+    if (!isListening() || refuse())
+        return false;
+    m_before.emplace(*m_field);
+    m_slid = m_before;
+    return true;
 }
 
-/// A step that the editor has written, or shows only: it does not write while the slider's box is off.
-void EditManager::sliderStepped()
+void EditManager::slide(const HbSlider &)
 {
-    if (isHeld() && m_field)
-        m_dragged.emplace(*m_field);
-    const bool isTyped = m_edit && m_edit->isModified(); // a typed text moves the slider before it is committed
-    if (isHeld() || isTyped || !isListening() || !m_before || m_slider->value() == m_positionBefore)
-        return;
-    const FieldSnapshot before = *m_before;
-    if (refuse(before))
-        return;
     m_editor->applyChanges();
-    record(before, m_series);
-    remember();
+    m_slid.emplace(*m_field);
 }
 
-/// The mask's editor has written the field, and tells no manager.
-void EditManager::maskClicked()
+bool EditManager::isAsSlid() const
 {
-    if (!isListening() || !m_before)
-        return;
-    const FieldSnapshot before = *std::exchange(m_before, std::nullopt);
-    if (refuse(before))
-        return;
-    record(before, FieldCommand::noSeries);
-    remember();
+    return !m_field || m_slid->isSameValue(FieldSnapshot(*m_field));
 }
 
-bool EditManager::eventFilter(QObject *, QEvent *event)
+void EditManager::putBack(HbSlider &)
 {
-    switch (event->type()) {
-    case QEvent::MouseButtonPress:
-    case QEvent::MouseButtonDblClick:
-        if (isListening() && refuse(FieldSnapshot(*m_field)))
-            return true;
-        hold(); // before the slider jumps to a click
-        break;
-    case QEvent::MouseButtonRelease:
-        letGo();
-        break;
-    case QEvent::FocusOut:
-        letGo();
-        m_series = FieldCommand::newSeries();
-        break;
-    default:
-        break;
-    }
-    return false;
+    m_before->restore(*m_field);
+    m_slid = m_before;
+    const QScopedValueRollback<bool> guard(m_refreshing, true);
+    m_editor->refresh();
+}
+
+void EditManager::endSlide(int series)
+{
+    if (m_field && m_stack)
+        record(*m_before, series);
+}
+
+void EditManager::maskClicked(const QString &name, bool on)
+{
+    if (!isCommanded())
+        return;
+    auto &mask = static_cast<SoSFEnum &>(*m_field);
+    const int value = MaskTicks::switched(mask, name, on);
+    edit(FieldSnapshot(mask), [&] {
+        mask.setValue(value);
+        const auto standard = FieldSnapshot::ofDefault(mask);
+        if (standard && standard->isSameValue(FieldSnapshot(mask)))
+            mask.setDefault(TRUE); // else it would be saved as all its names
+    });
 }

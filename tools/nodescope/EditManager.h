@@ -5,7 +5,8 @@
 #define EDITMANAGER_H
 
 #include "FieldCommand.h"
-#include "OwnEdit.h"
+#include "SliderEdit.h"
+#include "TypedNumbers.h"
 
 #include <HbFieldEditorCommandManager.h>
 
@@ -14,19 +15,18 @@
 #include <functional>
 
 class HbFieldEditors;
+class MaskTicks;
 class QLineEdit;
-class QSlider;
 class QUndoStack;
+class ShownNumbers;
 
 /**
  * Turns the edits of one editor into undo steps.
  *
- * One step per committed text, click or slider drag; the steps of a slider by key, wheel or a click in its
- * groove, which the editor writes without a command, make one step together while the slider has the focus.
- * What changes nothing leaves no step and every bit of the value as it was; so does, in a value of several numbers,
- * a number that was not edited.
+ * One step per committed text, click or slider drag, see SliderEdit. What changes nothing leaves no step and every bit
+ * of the value as it was; so does, in a value of several numbers, a number that was not edited.
  */
-class EditManager : public HbFieldEditorCommandManager
+class EditManager : public HbFieldEditorCommandManager, protected SliderTarget
 {
     Q_OBJECT
 
@@ -36,15 +36,24 @@ public:
 
     /// The editor that was created with this manager; once.
     virtual void setEditor(HbFieldEditors *editor);
+    /// The spans of the sliders are chosen here, not by who made the editor.
+    void fitSliders();
     /// The field must outlive its stay here. Shows nothing until refresh().
     virtual void setField(SoField *field);
     /// Shows the field's value; commands that come of it are not edits.
-    virtual void refresh();
+    void refresh() override;
     /// Commits what is being edited where no control of the editor itself would.
     virtual void finish() { }
+    /// Makes plain numbers of what is being typed, before it is committed; at the latest now.
+    void finishTyping() { m_typing.finish(); }
+
+    /// Gives the field another value of its type, as one step.
+    void setValue(const SoField &value);
 
     /// Whether a mouse button holds the slider.
-    bool isHeld() const { return m_hold.has_value(); }
+    bool isHeld() const { return m_slider && m_slider->isHeld(); }
+    /// Ends a drag.
+    virtual void letGo();
 
     void mfieldSwapRows(int first, int second) override;
     void mfieldSwapColumns(int first, int second) override;
@@ -56,8 +65,6 @@ public:
     void fieldSetDefaultValue() override;
     void fieldSetIgnored(bool ignored) override;
 
-    bool eventFilter(QObject *watched, QEvent *event) override;
-
 Q_SIGNALS:
     /// Something the user should know, in one sentence.
     void message(const QString &text);
@@ -65,38 +72,52 @@ Q_SIGNALS:
 protected:
     /// Whether commands are edits.
     bool isListening() const;
+    /// The same; where they are, a drag ends first.
+    bool isCommanded();
     HbFieldEditors *editor() const { return m_editor; }
     SoField *field() const { return m_field; }
     QUndoStack *stack() const { return m_stack; }
+    /// Where the field cannot be edited: says why.
+    bool refuse();
     void tellRefused();
+    TypedNumbers &typing() { return m_typing; }
+    /// Of the commands that an edit makes.
+    int editSeries() const { return m_editSeries; }
+
+    std::optional<double> slidNumber(const HbSlider &slider) const override;
+    std::optional<SliderSpan> slidSpan(double number) const override;
+    bool beginSlide(const HbSlider &slider) override;
+    void slide(const HbSlider &slider) override;
+    bool isAsSlid() const override;
+    void putBack(HbSlider &slider) override;
+    void endSlide(int series) override;
 
 private:
-    bool refuse(const FieldSnapshot &before);
+    void editRotation();
+    void commitStep(TypedNumber *number);
+    bool refuseForeign();
     void edit(const FieldSnapshot &before, const std::function<void()> &write);
     void record(const FieldSnapshot &before, int series, const std::vector<FieldState> &images = {});
 
-    void remember();
-    void hold();
-    void letGo();
-    void sliderStepped();
-    void maskClicked();
+    void maskClicked(const QString &name, bool on);
 
     QPointer<QUndoStack> m_stack;
     HbFieldEditors *m_editor = nullptr;
     QPointer<QWidget> m_frame; ///< the editor as well: its controls still speak when it dies
     SoField *m_field = nullptr;
-    QPointer<QSlider> m_slider;
-    QPointer<QLineEdit> m_edit;
+    std::unique_ptr<SliderEdit> m_slider;
+    QPointer<MaskTicks> m_mask;
+    QPointer<ShownNumbers> m_numbers;
     QPointer<QLineEdit> m_line; ///< shows the whole value and can be typed in
     QString m_shownLine;
-    std::optional<FieldSnapshot> m_before; ///< from before the slider's next move
-    std::optional<FieldSnapshot> m_dragged; ///< what a held slider left in the field
-    int m_positionBefore = 0;
+    std::optional<FieldSnapshot> m_before; ///< from before the slider moved
+    std::optional<FieldSnapshot> m_slid; ///< what it left in the field
     bool m_isStandard = false; ///< of a class that is known
-    bool m_isMask = false; ///< the editor writes by itself
-    int m_series;
-    std::optional<OwnEdit> m_hold; ///< while a mouse button holds the slider, whose moves are written at once
+    bool m_fitsSliders = false;
     bool m_refreshing = false;
+    TypedNumbers m_typing;
+    bool m_isTypingReady = false;
+    int m_editSeries = FieldCommand::noSeries;
 };
 
 #endif

@@ -6,7 +6,6 @@
 #include "FieldLength.h"
 #include "ValueText.h"
 
-#include <HbIntSlider.h>
 #include <HbMFColorWidget.h>
 #include <HbMFDefaultFieldWidget.h>
 #include <HbMFFloatWidget.h>
@@ -21,8 +20,7 @@
 #include <HbMFVec2sWidget.h>
 #include <HbMFVec3fWidget.h>
 #include <HbMFVec4fWidget.h>
-#include <HbRangeSettings.h>
-#include <HbRealSlider.h>
+#include <HbRangeComponent.h>
 #include <HbSFBitMaskWidget.h>
 #include <HbSFBoolWidget.h>
 #include <HbSFBox3sWidget.h>
@@ -45,9 +43,7 @@
 #include <HbSFVec2sWidget.h>
 #include <HbSFVec3fWidget.h>
 #include <HbSFVec4fWidget.h>
-#include <HbUIntSlider.h>
 
-#include <QCheckBox>
 #include <QComboBox>
 
 #include <Inventor/fields/SoFieldContainer.h>
@@ -61,19 +57,17 @@ namespace
 {
 using Manager = HbFieldEditorCommandManager;
 
-template <class Widget>
-HbFieldEditors *ranged(SoField &, const char *label, const HbRangeComponent &range, Manager *manager, QWidget *parent)
+template <class Widget> HbFieldEditors *ranged(SoField &, const char *label, Manager *manager, QWidget *parent)
 {
-    return new Widget(label, range, manager, parent, nullptr, {});
+    return new Widget(label, HbRangeComponent(), manager, parent, nullptr, {});
 }
 
-template <class Widget>
-HbFieldEditors *plain(SoField &, const char *label, const HbRangeComponent &, Manager *manager, QWidget *parent)
+template <class Widget> HbFieldEditors *plain(SoField &, const char *label, Manager *manager, QWidget *parent)
 {
     return new Widget(label, manager, parent, nullptr, {});
 }
 
-HbFieldEditors *choice(SoField &field, const char *label, const HbRangeComponent &, Manager *manager, QWidget *parent)
+HbFieldEditors *choice(SoField &field, const char *label, Manager *manager, QWidget *parent)
 {
     const auto &enumeration = static_cast<const SoSFEnum &>(field);
     std::vector<SbName> names(static_cast<std::size_t>(enumeration.getNumEnums()));
@@ -82,12 +76,12 @@ HbFieldEditors *choice(SoField &field, const char *label, const HbRangeComponent
     return new HbSFEnumWidget(label, manager, static_cast<int>(names.size()), names.data(), parent, nullptr, {});
 }
 
-HbFieldEditors *bits(SoField &field, const char *label, const HbRangeComponent &, Manager *manager, QWidget *parent)
+HbFieldEditors *bits(SoField &field, const char *label, Manager *manager, QWidget *parent)
 {
     return new HbSFBitMaskWidget(&field, label, manager, parent, nullptr, {});
 }
 
-HbFieldEditors *text(SoField &, const char *label, const HbRangeComponent &, Manager *, QWidget *parent)
+HbFieldEditors *text(SoField &, const char *label, Manager *, QWidget *parent)
 {
     return new ValueText(label, parent);
 }
@@ -123,63 +117,32 @@ private:
     }
 };
 
-constexpr char realRow[] = "floatField";
-constexpr char integerRow[] = "intField";
-
-// A fixed range would empty the slider of an unsigned number.
 constexpr EditorKind kinds[] = {
-    {SoMFFloat::getClassTypeId, ranged<HbMFFloatWidget>, realRow, true},
-    {SoMFMatrix::getClassTypeId, plain<ReadableMatrices>, nullptr, false},
-    {SoMFColor::getClassTypeId, plain<HbMFColorWidget>, nullptr, false},
-    {SoMFInt32::getClassTypeId, plain<HbMFInt32Widget>, nullptr, false},
-    {SoMFPlane::getClassTypeId, plain<HbMFPlaneWidget>, nullptr, false},
-    {SoMFShort::getClassTypeId, plain<HbMFShortWidget>, nullptr, false},
-    {SoMFString::getClassTypeId, plain<HbMFStringWidget>, nullptr, false},
-    {SoMFUInt32::getClassTypeId, plain<HbMFUInt32Widget>, nullptr, false},
-    {SoMFUShort::getClassTypeId, plain<HbMFUShortWidget>, nullptr, false},
-    {SoMFVec2f::getClassTypeId, plain<HbMFVec2fWidget>, nullptr, false},
-    {SoMFVec2s::getClassTypeId, plain<HbMFVec2sWidget>, nullptr, false},
-    {SoMFVec3f::getClassTypeId, plain<HbMFVec3fWidget>, nullptr, false},
-    {SoMFVec4f::getClassTypeId, plain<HbMFVec4fWidget>, nullptr, false},
-    {SoSFBitMask::getClassTypeId, bits, nullptr, false},
-    {SoSFBool::getClassTypeId, plain<HbSFBoolWidget>, nullptr, false},
-    {SoSFBox3s::getClassTypeId, plain<HbSFBox3sWidget>, nullptr, false},
-    {SoSFColor::getClassTypeId, plain<HbSFColorWidget>, nullptr, false},
-    {SoSFEnum::getClassTypeId, choice, nullptr, false},
-    {SoSFFloat::getClassTypeId, ranged<HbSFFloatWidget>, realRow, true},
-    {SoSFImage::getClassTypeId, plain<HbSFImageWidget>, nullptr, false},
-    {SoSFInt32::getClassTypeId, ranged<HbSFInt32Widget>, integerRow, true},
-    {SoSFMatrix::getClassTypeId, plain<HbSFMatrixWidget>, nullptr, false},
-    {SoSFName::getClassTypeId, plain<HbSFNameWidget>, nullptr, false},
-    {SoSFPlane::getClassTypeId, plain<HbSFPlaneWidget>, nullptr, false},
-    {SoSFRotation::getClassTypeId, plain<HbSFRotationWidget>, nullptr, false},
-    {SoSFShort::getClassTypeId, ranged<HbSFShortWidget>, integerRow, true},
-    {SoSFString::getClassTypeId, plain<HbSFStringWidget>, nullptr, false},
-    {SoSFUInt32::getClassTypeId, ranged<HbSFUInt32Widget>, integerRow, false},
-    {SoSFUShort::getClassTypeId, ranged<HbSFUShortWidget>, integerRow, false},
-    {SoSFVec2f::getClassTypeId, plain<HbSFVec2fWidget>, nullptr, false},
-    {SoSFVec2s::getClassTypeId, plain<HbSFVec2sWidget>, nullptr, false},
-    {SoSFVec3f::getClassTypeId, plain<HbSFVec3fWidget>, nullptr, false},
-    {SoSFVec4f::getClassTypeId, plain<HbSFVec4fWidget>, nullptr, false},
+    {SoMFFloat::getClassTypeId, ranged<HbMFFloatWidget>},      {SoMFMatrix::getClassTypeId, plain<ReadableMatrices>},
+    {SoMFColor::getClassTypeId, plain<HbMFColorWidget>},       {SoMFInt32::getClassTypeId, plain<HbMFInt32Widget>},
+    {SoMFPlane::getClassTypeId, plain<HbMFPlaneWidget>},       {SoMFShort::getClassTypeId, plain<HbMFShortWidget>},
+    {SoMFString::getClassTypeId, plain<HbMFStringWidget>},     {SoMFUInt32::getClassTypeId, plain<HbMFUInt32Widget>},
+    {SoMFUShort::getClassTypeId, plain<HbMFUShortWidget>},     {SoMFVec2f::getClassTypeId, plain<HbMFVec2fWidget>},
+    {SoMFVec2s::getClassTypeId, plain<HbMFVec2sWidget>},       {SoMFVec3f::getClassTypeId, plain<HbMFVec3fWidget>},
+    {SoMFVec4f::getClassTypeId, plain<HbMFVec4fWidget>},       {SoSFBitMask::getClassTypeId, bits},
+    {SoSFBool::getClassTypeId, plain<HbSFBoolWidget>},         {SoSFBox3s::getClassTypeId, plain<HbSFBox3sWidget>},
+    {SoSFColor::getClassTypeId, plain<HbSFColorWidget>},       {SoSFEnum::getClassTypeId, choice},
+    {SoSFFloat::getClassTypeId, ranged<HbSFFloatWidget>},      {SoSFImage::getClassTypeId, plain<HbSFImageWidget>},
+    {SoSFInt32::getClassTypeId, ranged<HbSFInt32Widget>},      {SoSFMatrix::getClassTypeId, plain<HbSFMatrixWidget>},
+    {SoSFName::getClassTypeId, plain<HbSFNameWidget>},         {SoSFPlane::getClassTypeId, plain<HbSFPlaneWidget>},
+    {SoSFRotation::getClassTypeId, plain<HbSFRotationWidget>}, {SoSFShort::getClassTypeId, ranged<HbSFShortWidget>},
+    {SoSFString::getClassTypeId, plain<HbSFStringWidget>},     {SoSFUInt32::getClassTypeId, ranged<HbSFUInt32Widget>},
+    {SoSFUShort::getClassTypeId, ranged<HbSFUShortWidget>},    {SoSFVec2f::getClassTypeId, plain<HbSFVec2fWidget>},
+    {SoSFVec2s::getClassTypeId, plain<HbSFVec2sWidget>},       {SoSFVec3f::getClassTypeId, plain<HbSFVec3fWidget>},
+    {SoSFVec4f::getClassTypeId, plain<HbSFVec4fWidget>},
 };
-constexpr EditorKind anySingleValue = {nullptr, plain<HbSFLineWidget>, nullptr, false};
-constexpr EditorKind anyValues = {nullptr, plain<HbMFDefaultFieldWidget>, nullptr, false};
-constexpr EditorKind tooLong = {nullptr, text, nullptr, false};
+constexpr EditorKind anySingleValue = {nullptr, plain<HbSFLineWidget>};
+constexpr EditorKind anyValues = {nullptr, plain<HbMFDefaultFieldWidget>};
+constexpr EditorKind tooLong = {nullptr, text};
 
 template <class... Widgets> bool isOneOf(const HbFieldEditors &editor)
 {
     return ((typeid(editor) == typeid(Widgets)) || ...);
-}
-
-bool intersects(const SoSFEnum &mask, const QString &wanted)
-{
-    for (int i = 0; i < mask.getNumEnums(); ++i) {
-        SbName name;
-        const int value = mask.getEnum(i, name);
-        if (wanted == QLatin1String(name.getString()))
-            return value & mask.getValue();
-    }
-    return false;
 }
 } // namespace
 
@@ -212,40 +175,13 @@ QStringList EditorTable::choices(const SoField &field)
 
 bool EditorTable::isStandard(const HbFieldEditors &editor)
 {
-    return isOneOf<HbSFBitMaskWidget, HbSFBox3sWidget, HbSFColorWidget, HbSFEnumWidget, HbSFFloatWidget,
-                   HbSFInt32Widget, HbSFLineWidget, HbSFMatrixWidget, HbSFNameWidget, HbSFPlaneWidget,
-                   HbSFRotationWidget, HbSFShortWidget, HbSFStringWidget, HbSFUInt32Widget, HbSFUShortWidget,
-                   HbSFVec2fWidget, HbSFVec2i32Widget, HbSFVec2sWidget, HbSFVec3fWidget, HbSFVec4fWidget>(editor);
-}
-
-HbRangeComponent EditorTable::rangeFor(const EditorKind &kind, const SoField &field)
-{
-    static const HbRangeSettings settings;
-    const SoFieldContainer *const container = field.getContainer();
-    SbName name;
-    if (!kind.rangeRow || !container || !container->getFieldName(&field, name))
-        return {};
-    const char *const nodeClass = container->getTypeId().getName().getString();
-    HbRangeComponent range = settings.isBounded(nodeClass, name.getString())
-        ? settings.getFieldRange(nodeClass, name.getString())
-        : settings.getFieldRange("DefaultNode", kind.rangeRow);
-    if (!kind.canFixRange)
-        range.setBoundFixed(false);
-    return range;
-}
-
-void EditorTable::resetRange(HbFieldEditors &editor, const HbRangeComponent &range)
-{
-    auto *const slider = editor.findChild<HbSlider *>();
-    if (auto *const real = dynamic_cast<HbRealSlider *>(slider)) {
-        real->setValidLimits(range.fMin, range.fMax, range.boundFixed);
-        real->setValidLimits(range.fMin, range.fMax, range.boundFixed); // the top's position hangs on the bottom
-    } else if (auto *const integer = dynamic_cast<HbIntSlider *>(slider)) {
-        integer->setValidLimits(range.iMin, range.iMax, range.boundFixed);
-    } else if (auto *const natural = dynamic_cast<HbUIntSlider *>(slider)) {
-        natural->setValidLimits(static_cast<unsigned>(qMax(range.iMin, 0)), static_cast<unsigned>(range.iMax),
-                                range.boundFixed);
-    }
+    return isOneOf<ReadableMatrices, HbMFColorWidget, HbMFDefaultFieldWidget, HbMFFloatWidget, HbMFInt32Widget,
+                   HbMFPlaneWidget, HbMFShortWidget, HbMFStringWidget, HbMFUInt32Widget, HbMFUShortWidget,
+                   HbMFVec2fWidget, HbMFVec2sWidget, HbMFVec3fWidget, HbMFVec4fWidget, HbSFBitMaskWidget,
+                   HbSFBox3sWidget, HbSFColorWidget, HbSFEnumWidget, HbSFFloatWidget, HbSFInt32Widget, HbSFLineWidget,
+                   HbSFMatrixWidget, HbSFNameWidget, HbSFPlaneWidget, HbSFRotationWidget, HbSFShortWidget,
+                   HbSFStringWidget, HbSFUInt32Widget, HbSFUShortWidget, HbSFVec2fWidget, HbSFVec2i32Widget,
+                   HbSFVec2sWidget, HbSFVec3fWidget, HbSFVec4fWidget>(editor);
 }
 
 void EditorTable::renew(HbFieldEditors &editor, const SoField &field)
@@ -256,9 +192,5 @@ void EditorTable::renew(HbFieldEditors &editor, const SoField &field)
     if (auto *const box = editor.findChild<QComboBox *>(); box && box->count() == names.size()) {
         for (int i = 0; i < names.size(); ++i)
             box->setItemText(i, names[i]);
-    } else if (dynamic_cast<HbSFBitMaskWidget *>(&editor)) {
-        const auto boxes = editor.findChildren<QCheckBox *>();
-        for (QCheckBox *const bit : boxes)
-            bit->setChecked(intersects(static_cast<const SoSFEnum &>(field), bit->text()));
     }
 }

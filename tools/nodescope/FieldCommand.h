@@ -19,7 +19,8 @@ struct FieldState {
     FieldSnapshot state;
 };
 
-/// The images that the node of @p field keeps beside it: a texture loads its image anew when its file name changes.
+/// The images that the node of @p field, which may be a file's name, keeps beside it: a texture loads its image anew
+/// when its file name changes.
 std::vector<FieldState> imagesBeside(const SoField &field);
 
 /// One undo step: a field went from one state to another. Keeps the field's node alive.

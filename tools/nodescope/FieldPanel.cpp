@@ -7,6 +7,9 @@
 #include "FieldObserver.h"
 #include "FieldRow.h"
 #include "FieldText.h"
+#include "NodeOrigin.h"
+#include "OriginNotice.h"
+#include "PanelGrid.h"
 
 #include <QApplication>
 #include <QLabel>
@@ -32,11 +35,14 @@ std::vector<SoField *> fieldsOf(const SoNode *node)
 } // namespace
 
 FieldPanel::FieldPanel(QUndoStack *stack, QWidget *parent)
-    : TitledArea(parent), m_stack(stack), m_observer(new FieldObserver(this))
+    : TitledArea(parent), m_stack(stack), m_observer(new FieldObserver(this)), m_notice(new OriginNotice(this)),
+      m_grid(new PanelGrid(*m_area, [this] { return widestLabel(); }))
 {
     connect(m_observer, &FieldObserver::fieldChanged, this, &FieldPanel::followField);
     connect(m_observer, &FieldObserver::nodeChanged, this, &FieldPanel::followAll);
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget *, QWidget *now) { showFocus(now); });
+    connect(m_notice, &OriginNotice::fileWanted, this, &FieldPanel::fileWanted);
+    static_cast<QBoxLayout *>(layout())->insertWidget(1, m_notice);
     showTitle();
 }
 
@@ -48,43 +54,58 @@ FieldPanel::~FieldPanel()
         row->release();
 }
 
+/// A commit, or the focus that leaves a page, may have somebody ask for another node: then that one is shown.
 void FieldPanel::setNode(SoNode *node)
 {
+    const unsigned request = ++m_requests;
     if (node == m_node.get()) {
         followAll();
         return;
     }
+    const std::shared_ptr<SoNode> wanted = coinRef(node);
     finish();
-    const std::shared_ptr<SoNode> previous = std::exchange(m_node, coinRef(node)); // until its rows let go
-    m_observer->watch(node);
+    if (request != m_requests)
+        return;
     const std::vector<SoField *> fields = fieldsOf(node);
-    const bool isSameClass = node && previous && node->getTypeId() == previous->getTypeId();
-    if (!isSameClass || !reuse(fields))
+    const bool isReused = node && m_node && node->getTypeId() == m_node->getTypeId() && fits(fields);
+    if (!isReused)
+        removePage();
+    if (request != m_requests)
+        return;
+    const std::shared_ptr<SoNode> previous = std::exchange(m_node, wanted); // until its rows let go
+    m_observer->watch(node);
+    if (isReused)
+        reuse(fields);
+    else
         rebuild(fields);
     showTitle();
 }
 
 void FieldPanel::finish()
 {
-    for (FieldRow *const row : m_rows)
+    for (FieldRow *const row : rows())
         row->finish();
 }
 
 /// Classes read from a file may differ in the fields of their nodes.
-bool FieldPanel::reuse(const std::vector<SoField *> &fields)
+bool FieldPanel::fits(const std::vector<SoField *> &fields) const
 {
-    const bool fits = std::equal(fields.begin(), fields.end(), m_rows.begin(), m_rows.end(),
-                                 [](const SoField *field, const FieldRow *row) { return row->fits(*field); });
-    if (!fits)
-        return false;
-    for (size_t i = 0; i < fields.size(); ++i)
-        m_rows[i]->setField(*fields[i]);
-    return true;
+    return std::equal(fields.begin(), fields.end(), m_rows.begin(), m_rows.end(),
+                      [](const SoField *field, const FieldRow *row) { return row->fits(*field); });
+}
+
+void FieldPanel::reuse(const std::vector<SoField *> &fields)
+{
+    auto field = fields.begin();
+    for (FieldRow *const row : rows())
+        row->setField(**field++);
 }
 
 void FieldPanel::rebuild(const std::vector<SoField *> &fields)
 {
-    removeRows();
+    for (FieldRow *const row : std::exchange(m_rows, {}))
+        row->release();
+    m_grid->clear();
     auto *const page = new QWidget; // built out of sight, laid out once
     auto *const layout = new QVBoxLayout(page);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -92,51 +113,51 @@ void FieldPanel::rebuild(const std::vector<SoField *> &fields)
     for (SoField *const field : fields) {
         auto *const row = new FieldRow(*field, m_stack, page);
         connect(row, &FieldRow::message, this, &FieldPanel::message);
+        connect(row, &FieldRow::nodeWanted, this, &FieldPanel::nodeWanted);
         layout->addWidget(row->widget());
-        row->widget()->show();
+        m_grid->add(*row->widget());
+        row->widget()->show(); // which lays it out
         m_rows.push_back(row);
     }
     layout->addStretch(1);
-    alignLabels();
+    m_grid->align();
     m_area->setWidget(page);
+    m_grid->orderTabs();
 }
 
-void FieldPanel::removeRows()
+/// Its rows go on until others take their place.
+void FieldPanel::removePage()
 {
-    for (FieldRow *const row : m_rows)
-        row->release();
-    m_rows.clear();
     if (QWidget *const page = m_area->takeWidget()) {
         page->hide();
         page->deleteLater(); // one of its editors may be what called us
     }
 }
 
-void FieldPanel::alignLabels()
+int FieldPanel::widestLabel() const
 {
     int width = 0;
     for (const FieldRow *const row : m_rows)
         width = std::max(width, row->labelWidth());
-    for (FieldRow *const row : m_rows)
-        row->setLabelWidth(width);
+    return width;
 }
 
 void FieldPanel::showTitle()
 {
+    m_notice->show(NodeOrigin::of(m_node.get()));
     if (!m_node) {
         m_title->setText(tr("No node selected"));
         return;
     }
-    QString title = FieldText::typeName(*m_node);
-    if (const SbName name = m_node->getName(); name.getLength() > 0)
-        title += QLatin1Char(' ') + QString::fromLatin1(name.getString());
+    const QString title = FieldText::nodeName(*m_node);
     m_title->setText(m_rows.empty() ? tr("%1 has no fields").arg(title) : title);
 }
 
 void FieldPanel::showFocus(const QWidget *focused)
 {
-    for (FieldRow *const row : m_rows)
+    for (FieldRow *const row : rows())
         row->setFocused(focused && row->widget()->isAncestorOf(focused));
+    m_grid->showFocus(focused);
 }
 
 QWidget *FieldPanel::editorOf(const QString &fieldName) const
@@ -160,6 +181,6 @@ void FieldPanel::followField(const SoField *field)
 
 void FieldPanel::followAll()
 {
-    for (FieldRow *const row : m_rows)
+    for (FieldRow *const row : rows())
         row->follow();
 }

@@ -11,6 +11,8 @@
 
 class FieldObserver;
 class FieldRow;
+class OriginNotice;
+class PanelGrid;
 class QUndoStack;
 class SoField;
 class SoNode;
@@ -41,12 +43,19 @@ public:
 Q_SIGNALS:
     /// Something the user should know, in one sentence: why an edit was refused.
     void message(const QString &text);
+    /// A node that the shown one refers to is to be selected.
+    void nodeWanted(SoNode *node);
+    /// The file that the node comes from is to be opened.
+    void fileWanted(const QString &fileName);
 
 private:
-    bool reuse(const std::vector<SoField *> &fields);
+    /// A copy: what one of them does may have others made, and they live until the event loop goes on.
+    std::vector<FieldRow *> rows() const { return m_rows; }
+    bool fits(const std::vector<SoField *> &fields) const;
+    void reuse(const std::vector<SoField *> &fields);
     void rebuild(const std::vector<SoField *> &fields);
-    void removeRows();
-    void alignLabels();
+    void removePage();
+    int widestLabel() const;
     void showTitle();
     void showFocus(const QWidget *focused);
     FieldRow *rowOf(const SoField *field) const;
@@ -56,7 +65,10 @@ private:
     QUndoStack *m_stack;
     std::shared_ptr<SoNode> m_node;
     FieldObserver *m_observer;
+    OriginNotice *m_notice;
+    PanelGrid *m_grid;
     std::vector<FieldRow *> m_rows; ///< children of the area's widget
+    unsigned m_requests = 0; ///< to show a node
 };
 
 #endif

@@ -5,24 +5,32 @@
 
 #include "EditManager.h"
 #include "EditorTable.h"
+#include "FieldClipboard.h"
 #include "FieldText.h"
+#include "ImagePreview.h"
+#include "NodesInFields.h"
+#include "RowMenu.h"
+#include "RowState.h"
 #include "TableManager.h"
 #include "UndoKeys.h"
 
 #include <HbFieldEditors.h>
-#include <HbRangeComponent.h>
-#include <HbTablePopupLineEdit.h>
 
+#include <QAction>
 #include <QCoreApplication>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
-#include <QSlider>
 #include <QSpinBox>
 
 #include <Inventor/fields/SoField.h>
 #include <Inventor/fields/SoFieldContainer.h>
+#include <Inventor/fields/SoMFInt32.h>
+#include <Inventor/fields/SoMFName.h>
+#include <Inventor/fields/SoMFString.h>
 #include <Inventor/fields/SoMField.h>
+#include <Inventor/fields/SoSFName.h>
+#include <Inventor/fields/SoSFString.h>
 
 #include <algorithm>
 
@@ -59,7 +67,7 @@ FieldRow::Made makeByType(SoField &field, QUndoStack *stack, QWidget *parent)
 {
     return FieldRow::make(field, stack, [&](HbFieldEditorCommandManager *manager) {
         const EditorKind &kind = EditorTable::kindFor(field);
-        return kind.create(field, nameOf(field).getString(), EditorTable::rangeFor(kind, field), manager, parent);
+        return kind.create(field, nameOf(field).getString(), manager, parent);
     });
 }
 } // namespace
@@ -75,16 +83,22 @@ FieldRow::Made FieldRow::make(const SoField &field, QUndoStack *stack,
 FieldRow::FieldRow(SoField &field, QUndoStack *stack, QWidget *parent)
     : FieldRow(field, makeByType(field, stack, parent), parent)
 {
+    m_manager->fitSliders();
 }
 
 FieldRow::FieldRow(SoField &field, const Made &made, QObject *parent)
     : QObject(parent), m_field(&field), m_type(field.getTypeId()), m_name(nameOf(field)),
       m_kind(EditorTable::kindFor(field)), m_choices(EditorTable::choices(field)), m_manager(made.manager),
       m_editor(made.editor), m_label(labelOf(*m_editor)), m_labelText(m_label->text()),
-      m_edits(m_editor->findChildren<QLineEdit *>())
+      m_state(new RowState(*m_editor, *m_label)), m_edits(m_editor->findChildren<QLineEdit *>())
 {
+    m_state->setParent(this);
+    connect(m_state, &RowState::linkClicked, this, &FieldRow::followLink);
+    m_editor->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(m_editor, &QWidget::customContextMenuRequested, this, &FieldRow::openMenu);
     m_manager->setParent(this);
     adoptControls();
+    ImagePreview::watchIn(*m_editor);
     nameControls();
     connect(m_manager, &EditManager::message, this, &FieldRow::message);
     m_manager->setEditor(m_editor);
@@ -116,7 +130,11 @@ void FieldRow::nameControls()
             control->setAccessibleName(role.isEmpty() ? name : QStringLiteral("%1, %2").arg(name, role));
     }
     m_editor->setAccessibleName(name);
-    m_editor->setToolTip(QStringLiteral("%1 (%2)").arg(name, QString::fromLatin1(m_type.getName().getString())));
+    QString explanation = QStringLiteral("%1 (%2)").arg(name, QString::fromLatin1(m_type.getName().getString()));
+    const bool holdsIndices = m_type == SoMFInt32::getClassTypeId() && name.endsWith(QLatin1String("Index"));
+    if (holdsIndices)
+        explanation += QLatin1Char('\n') + tr("Indices count from 0, rows from 1.");
+    m_editor->setToolTip(explanation);
 }
 
 QWidget *FieldRow::widget() const
@@ -134,16 +152,13 @@ void FieldRow::setField(SoField &field)
 {
     m_field = &field;
     m_manager->setField(m_field);
-    EditorTable::resetRange(*m_editor, EditorTable::rangeFor(m_kind, field));
     refresh();
 }
 
 void FieldRow::finish()
 {
-    if (m_manager->isHeld()) { // the slider lets go, else the mouse would drag on in the next node's field
-        QMouseEvent release(QEvent::MouseButtonRelease, {}, {}, Qt::LeftButton, Qt::NoButton, Qt::NoModifier);
-        QCoreApplication::sendEvent(m_editor->findChild<QSlider *>(), &release);
-    }
+    m_manager->letGo();
+    m_manager->finishTyping();
     for (QLineEdit *const edit : std::as_const(m_edits)) {
         if (edit->isModified() && edit->hasAcceptableInput())
             Q_EMIT edit->editingFinished();
@@ -173,8 +188,10 @@ void FieldRow::refresh()
     if (!m_field)
         return;
     m_manager->refresh();
-    for (QLineEdit *const edit : std::as_const(m_edits))
+    for (QLineEdit *const edit : std::as_const(m_edits)) {
         edit->setModified(false); // not all are set anew
+        m_shown.insert(edit, edit->text());
+    }
     updateMark();
 }
 
@@ -182,26 +199,26 @@ void FieldRow::follow()
 {
     if (!isBusy())
         refresh();
+    else if (m_field)
+        updateMark();
 }
 
 bool FieldRow::isBusy() const
 {
     return m_manager->isHeld() || std::any_of(m_edits.begin(), m_edits.end(), [](const QLineEdit *edit) {
-               const bool isCommitted = qobject_cast<const HbTablePopupLineEdit *>(edit); // with every keystroke
-               return edit->isModified() && edit->isVisible() && !isCommitted;
+               return edit->isModified() && edit->isVisible();
            });
 }
 
 void FieldRow::updateMark()
 {
+    m_state->show(*m_field);
     const QString source = FieldText::source(*m_field);
     const QString label = source.isEmpty() ? m_labelText : m_labelText + connectedMark;
     if (label == m_label->text() && source == m_source)
         return;
     m_source = source;
     m_label->setText(label);
-    m_label->setToolTip(FieldText::obstacle(*m_field));
-    m_editor->setAccessibleDescription(m_label->toolTip());
 }
 
 void FieldRow::setFocused(bool focused)
@@ -221,23 +238,20 @@ int FieldRow::labelWidth() const
     QFont font = m_label->font();
     font.setBold(true);
     return QFontMetrics(font).horizontalAdvance(m_labelText + connectedMark)
-        + 2 * (m_label->margin() + m_label->frameWidth());
-}
-
-void FieldRow::setLabelWidth(int width)
-{
-    m_label->setFixedWidth(width);
+        + 2 * (m_label->margin() + m_label->frameWidth()) + m_label->contentsMargins().left();
 }
 
 bool FieldRow::eventFilter(QObject *watched, QEvent *event)
 {
-    const auto &edit = static_cast<const QLineEdit &>(*watched);
+    auto &edit = static_cast<QLineEdit &>(*watched);
     switch (event->type()) {
     case QEvent::ShortcutOverride:
     case QEvent::KeyPress:
         return handleKey(edit, static_cast<QKeyEvent &>(*event));
     case QEvent::FocusOut: {
         const Qt::FocusReason reason = static_cast<QFocusEvent *>(event)->reason();
+        if (isEmptied(edit))
+            showAgain(edit);
         if (reason != Qt::PopupFocusReason && reason != Qt::ActiveWindowFocusReason)
             QMetaObject::invokeMethod(this, &FieldRow::afterLeaving, Qt::QueuedConnection);
         return false;
@@ -247,7 +261,7 @@ bool FieldRow::eventFilter(QObject *watched, QEvent *event)
     }
 }
 
-bool FieldRow::handleKey(const QLineEdit &edit, QKeyEvent &event)
+bool FieldRow::handleKey(QLineEdit &edit, QKeyEvent &event)
 {
     if (leaveToApplication(event))
         return true;
@@ -255,12 +269,101 @@ bool FieldRow::handleKey(const QLineEdit &edit, QKeyEvent &event)
     const bool isInPopup = edit.window() != m_editor->window();
     if (event.key() == Qt::Key_Escape && isInPopup && !isAsked)
         refresh(); // and the popup closes
+    if (isInPopup && !isAsked && moveInHistory(event))
+        return true;
+    const bool isReturn = event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
+    if (isReturn && !isAsked && isEmptied(edit)) {
+        showAgain(edit);
+        edit.selectAll();
+        return true;
+    }
     if (event.key() != Qt::Key_Escape || !edit.isModified() || isInPopup)
         return false;
     event.accept();
     if (!isAsked)
         refresh();
     return true;
+}
+
+/// The window's shortcuts do not reach into a popup.
+bool FieldRow::moveInHistory(const QKeyEvent &key)
+{
+    const bool isUndo = key.matches(QKeySequence::Undo);
+    if (!isUndo && !key.matches(QKeySequence::Redo))
+        return false;
+    const QLatin1String name(isUndo ? "undo" : "redo");
+    if (auto *const action = m_editor->window()->findChild<QAction *>(name))
+        action->trigger();
+    return true;
+}
+
+/// Whether the text of a number was deleted: no text is none.
+bool FieldRow::isEmptied(const QLineEdit &edit) const
+{
+    static SoType (*const texts[])()
+        = {SoSFString::getClassTypeId, SoSFName::getClassTypeId, SoMFString::getClassTypeId, SoMFName::getClassTypeId};
+    const bool isText = std::any_of(std::begin(texts), std::end(texts), [this](auto type) { return m_type == type(); });
+    return !isText && m_field && edit.text().trimmed().isEmpty() && edit.isModified();
+}
+
+void FieldRow::showAgain(QLineEdit &edit)
+{
+    edit.setText(m_shown.value(&edit));
+    edit.setModified(false);
+}
+
+void FieldRow::openMenu(const QPoint &at)
+{
+    if (m_field)
+        (new RowMenu(*this))->popup(m_editor->mapToGlobal(at)); // deletes itself
+}
+
+void FieldRow::followLink()
+{
+    const std::vector<SoNode *> nodes = m_field ? nodesAt(*m_field) : std::vector<SoNode *>();
+    if (nodes.size() == 1)
+        Q_EMIT nodeWanted(nodes.front());
+    else if (!nodes.empty())
+        openMenu(m_editor->mapFromGlobal(QCursor::pos()));
+}
+
+void FieldRow::copyValue()
+{
+    finish();
+    if (m_field)
+        FieldClipboard::copy(*m_field);
+}
+
+void FieldRow::pasteValue()
+{
+    finish();
+    QString problem;
+    const std::shared_ptr<SoField> value = m_field ? FieldClipboard::valueFor(*m_field, &problem) : nullptr;
+    if (value)
+        m_manager->setValue(*value);
+    else if (!problem.isEmpty())
+        Q_EMIT message(problem);
+}
+
+void FieldRow::setToDefault()
+{
+    finish();
+    m_manager->fieldSetDefaultValue();
+}
+
+void FieldRow::setIgnored(bool ignored)
+{
+    m_manager->fieldSetIgnored(ignored);
+}
+
+bool FieldRow::isChanged() const
+{
+    return m_state->isChanged();
+}
+
+bool FieldRow::isLocked() const
+{
+    return m_state->isLocked();
 }
 
 /// Nothing stays in an edit that was refused, or that the field has left behind while it was typed.

@@ -6,6 +6,7 @@
 
 #include <HbGUIManagement.h>
 
+#include <QHash>
 #include <QObject>
 #include <QPointer>
 
@@ -19,7 +20,9 @@ class QLabel;
 class QLineEdit;
 class QUndoStack;
 class QWidget;
+class RowState;
 class SoField;
+class SoNode;
 struct EditorKind;
 
 /**
@@ -63,23 +66,39 @@ public:
     /// Like refresh(), but leaves an editor alone in which the user is typing or dragging.
     void follow();
 
+    /// Between this field and the clipboard.
+    void copyValue();
+    void pasteValue();
+    void setToDefault();
+    void setIgnored(bool ignored);
+    /// Whether the field differs from its default and can be set to it.
+    bool isChanged() const;
+    /// Whether the field cannot be edited.
+    bool isLocked() const;
+
     /// Shows in the name whether the keyboard is here.
     void setFocused(bool focused);
 
     int labelWidth() const;
-    void setLabelWidth(int width);
 
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 Q_SIGNALS:
     void message(const QString &text);
+    /// The node that drives the field or that it holds is to be selected.
+    void nodeWanted(SoNode *node);
 
 private:
     void nameControls();
     void adoptControls();
     void updateMark();
     bool isBusy() const;
-    bool handleKey(const QLineEdit &edit, QKeyEvent &event);
+    bool handleKey(QLineEdit &edit, QKeyEvent &event);
+    bool moveInHistory(const QKeyEvent &key);
+    bool isEmptied(const QLineEdit &edit) const;
+    void showAgain(QLineEdit &edit);
+    void openMenu(const QPoint &at);
+    void followLink();
     void afterLeaving();
     void commitWhole();
 
@@ -92,7 +111,9 @@ private:
     HbFieldEditors *m_editor;
     QLabel *m_label;
     QString m_labelText;
+    RowState *m_state;
     QList<QLineEdit *> m_edits;
+    QHash<const QLineEdit *, QString> m_shown; ///< what refresh() left in the edits
     QString m_source;
 };
 

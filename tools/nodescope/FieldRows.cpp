@@ -13,6 +13,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <limits>
 #include <type_traits>
 #include <utility>
 
@@ -61,6 +62,8 @@ template <class Value> void clear(Value &value)
 /// Moves the values from @p from on to @p to, to the end of a field that gets longer or shorter by as much.
 template <class Field> void makeRoom(Field &field, int from, int to, int total)
 {
+    if (from == to)
+        return; // a string that is assigned to itself loses its first letter
     using Value = std::remove_reference_t<decltype(*field.startEditing())>;
     field.finishEditing();
     if constexpr (std::is_pointer_v<Value>) { // counted references
@@ -80,6 +83,36 @@ template <class Field> void makeRoom(Field &field, int from, int to, int total)
         if (to < from)
             field.setNum(total + to - from);
     }
+}
+
+/// "0.1" and not "0.100000001", which are the same float.
+template <class Number> QString shortest(Number number)
+{
+    constexpr int fewest = 6; // as many as are shown
+    for (int digits = fewest; digits < std::numeric_limits<Number>::max_digits10; ++digits) {
+        const QString text = QString::number(double(number), 'g', digits);
+        if (static_cast<Number>(text.toDouble()) == number)
+            return text;
+    }
+    return QString::number(double(number), 'g', std::numeric_limits<Number>::max_digits10);
+}
+
+/// The numbers of which a value consists, in the order of a table's columns.
+template <class Value> QStringList floatsOf(const Value &value)
+{
+    QStringList texts;
+    const auto add = [&texts](auto number) { texts += shortest(number); };
+    if constexpr (std::is_floating_point_v<Value>) {
+        add(value);
+    } else if constexpr (std::is_same_v<Value, SbMatrix>) {
+        std::for_each(value[0], value[0] + 16, add);
+    } else if constexpr (std::is_same_v<Value, SbRotation>) {
+        std::for_each(value.getValue(), value.getValue() + 4, add);
+    } else if constexpr (std::is_same_v<Value, SbPlane>) {
+        std::for_each(value.getNormal().getValue(), value.getNormal().getValue() + 3, add);
+        add(value.getDistanceFromOrigin());
+    }
+    return texts;
 }
 
 std::shared_ptr<SoMField> newField(const SoMField &like)
@@ -139,6 +172,15 @@ bool FieldRows::areSame(const SoMField &first, const SoMField &second)
     return FieldSnapshot(first).isSameValue(FieldSnapshot(second));
 }
 
+bool FieldRows::areValues(const SoMField &field)
+{
+    if (field.isOfType(SoMFEnum::getClassTypeId()))
+        return false; // the names that its numbers have are the field's
+    bool are = false;
+    visitAny(field, [&](const auto &typed) { are = !std::is_pointer_v<std::decay_t<decltype(*typed.getValues(0))>>; });
+    return are;
+}
+
 bool FieldRows::areWhole(const SoMField &field)
 {
     bool are = false;
@@ -147,6 +189,23 @@ bool FieldRows::areWhole(const SoMField &field)
     visitAs(Others(), field,
             [&](const auto &typed) { are = std::is_integral_v<std::decay_t<decltype(*typed.getValues(0))>>; });
     return are;
+}
+
+QStringList FieldRows::numberTexts(const SoMField &field, int row)
+{
+    QStringList texts;
+    if (row < 0 || row >= field.getNum())
+        return texts;
+    const bool isVector = visitAs(Vectors(), field, [&](const auto &typed) {
+        const auto &value = *typed.getValues(row);
+        using Component = std::decay_t<decltype(value[0])>;
+        if constexpr (std::is_floating_point_v<Component>)
+            for (std::size_t i = 0; i < sizeof value / sizeof(Component); ++i)
+                texts += shortest(value[static_cast<int>(i)]);
+    });
+    if (!isVector)
+        visitAs(Others(), field, [&](const auto &typed) { texts = floatsOf(*typed.getValues(row)); });
+    return texts;
 }
 
 bool FieldRows::swapColumns(SoMField &field, int first, int second)

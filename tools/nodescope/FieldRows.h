@@ -4,6 +4,8 @@
 #ifndef FIELDROWS_H
 #define FIELDROWS_H
 
+#include <QStringList>
+
 #include <memory>
 
 class SoMField;
@@ -20,6 +22,12 @@ void replace(SoMField &field, int row, int count, const SoMField &values);
 bool areSame(const SoMField &first, const SoMField &second);
 /// Whether the values consist of whole numbers.
 bool areWhole(const SoMField &field);
+
+/// Whether the values stand for themselves, and not for nodes, paths, engines or names.
+bool areValues(const SoMField &field);
+/// The numbers of a value in the fewest digits that read back to the same bits; none where it does not consist of
+/// floats.
+QStringList numberTexts(const SoMField &field, int row);
 
 /// Exchanges two components in every value; false where the values have no such components.
 bool swapColumns(SoMField &field, int first, int second);

@@ -91,5 +91,5 @@ bool FieldSnapshot::operator==(const FieldSnapshot &other) const
 
 QString FieldSnapshot::text() const
 {
-    return FieldText::value(*m_value, textLimit);
+    return FieldText::value(*m_value, textLimit).simplified(); // Qt gives lines of an undo text a meaning
 }

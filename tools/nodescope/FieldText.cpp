@@ -3,6 +3,11 @@
 
 #include "FieldText.h"
 
+#include "NodeOrigin.h"
+#include "NumberForm.h"
+#include "NumberParts.h"
+#include "RotationNumbers.h"
+
 #include <QCoreApplication>
 #include <QStringList>
 
@@ -43,9 +48,7 @@ QString describe(const SoBase *object)
 {
     if (!object)
         return QStringLiteral("NULL");
-    const QString type = FieldText::typeName(*object);
-    const SbName name = object->getName();
-    return name.getLength() ? type + QLatin1Char(' ') + QString::fromLatin1(name.getString()) : type;
+    return FieldText::nodeName(*object);
 }
 
 QString describe(SbVec3s size, int components)
@@ -54,11 +57,39 @@ QString describe(SbVec3s size, int components)
     return translated("%1 x %2%3 pixels, %4 components").arg(size[0]).arg(size[1]).arg(depth).arg(components);
 }
 
+/// With as few digits as tell each number.
+QString readable(const NumberParts::Numbers &numbers)
+{
+    QStringList words;
+    for (const float number : numbers)
+        words += NumberParts::shortest(number);
+    return words.join(QLatin1Char(' '));
+}
+
+/// Coin writes more digits than tell a number.
+QString readable(const SoField &field, const SbString &text)
+{
+    const QString notation = QString::fromUtf8(text.getString(), text.getLength());
+    const NumberForm form = NumberForm::of(field);
+    if (form.kind != NumberForm::Kind::Single && form.kind != NumberForm::Kind::Double)
+        return notation;
+    QStringList words = notation.simplified().split(QLatin1Char(' '));
+    for (QString &word : words) {
+        bool isNumber = false;
+        const double number = word.toDouble(&isNumber);
+        if (isNumber)
+            word = form.written(number);
+    }
+    return words.join(QLatin1Char(' '));
+}
+
 QString notation(SoField &field, int limit)
 {
+    if (const NumberParts::Numbers numbers = NumberParts::of(field); !numbers.empty())
+        return readable(numbers);
     SbString text;
     field.get(text);
-    return shortened(QString::fromUtf8(text.getString(), text.getLength()), limit);
+    return shortened(readable(field, text), limit);
 }
 
 QString singleValue(SoField &field, int limit)
@@ -96,9 +127,13 @@ QString valueAt(SoMField &field, int index, int limit)
         return describe(static_cast<SoMFPath &>(field)[index]);
     if (field.isOfType(SoMFEngine::getClassTypeId()))
         return describe(static_cast<SoMFEngine &>(field)[index]);
+    if (field.isOfType(SoMFRotation::getClassTypeId())) {
+        const auto numbers = RotationNumbers::of(static_cast<SoMFRotation &>(field)[index]);
+        return readable({numbers.begin(), numbers.end()});
+    }
     SbString text;
     field.get1(index, text);
-    return QString::fromUtf8(text.getString(), text.getLength());
+    return readable(field, text);
 }
 
 QString multipleValue(SoMField &field, int limit)
@@ -128,6 +163,13 @@ QString FieldText::typeName(const SoBase &object)
     const char *const name = object.getTypeId().getName().getString();
     const bool isUnknown = std::strncmp(name, "Unknown", 7) == 0; // the classes that stand for what is not known
     return QString::fromLatin1(isUnknown ? FileName::of(object) : name);
+}
+
+QString FieldText::nodeName(const SoBase &object)
+{
+    const SbName name = object.getName();
+    return name.getLength() ? typeName(object) + QLatin1Char(' ') + QString::fromLatin1(name.getString())
+                            : typeName(object);
 }
 
 QString FieldText::qualifiedName(const SoField &field)
@@ -165,5 +207,6 @@ QString FieldText::obstacle(const SoField &field)
         return translated("%1 cannot be edited: it is read-only.").arg(qualifiedName(field));
     if (field.isConnected() && field.isConnectionEnabled())
         return translated("%1 cannot be edited: its value comes from %2.").arg(qualifiedName(field), source(field));
-    return {};
+    const QString obstacle = NodeOrigin::of(field.getContainer()).obstacle();
+    return obstacle.isEmpty() ? obstacle : translated("%1 cannot be edited: %2.").arg(qualifiedName(field), obstacle);
 }

@@ -15,6 +15,9 @@ namespace FieldText
 /// The class of a node or an engine; one that is not known here is called as it is in its file.
 QString typeName(const SoBase &object);
 
+/// The class and, where it has one, the name: "Cone Mast".
+QString nodeName(const SoBase &object);
+
 /// The class of its node and its own name: "Cone.height".
 QString qualifiedName(const SoField &field);
 

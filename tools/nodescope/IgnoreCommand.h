@@ -17,22 +17,35 @@
 class IgnoreCommand : public QUndoCommand
 {
 public:
-    /// The flag is turned already; redo() does nothing the first time.
-    explicit IgnoreCommand(SoField &field)
-        : m_container(coinRef(field.getContainer())), m_field(field), m_ignored(field.isIgnored())
+    IgnoreCommand(SoField &field, bool ignored)
+        : m_container(coinRef(field.getContainer())), m_field(field), m_ignored(ignored), m_wasDefault(field.isDefault())
     {
         const QString text = m_ignored ? QCoreApplication::translate("IgnoreCommand", "%1: ignore")
                                        : QCoreApplication::translate("IgnoreCommand", "%1: do not ignore");
         setText(text.arg(FieldText::qualifiedName(field)));
     }
 
-    void undo() override { m_field.setIgnored(!m_ignored); }
-    void redo() override { m_field.setIgnored(m_ignored); }
+    void undo() override
+    {
+        turn(!m_ignored);
+        m_field.setDefault(m_wasDefault); // which turning the other flag has cleared
+    }
+    void redo() override { turn(m_ignored); }
 
 private:
+    /// Tells the node, and so the picture, but not who follows the field: a texture would load its image anew.
+    void turn(bool ignored)
+    {
+        const bool wasNotifying = m_field.enableNotify(FALSE);
+        m_field.setIgnored(ignored);
+        m_field.enableNotify(wasNotifying);
+        m_container->touch();
+    }
+
     std::shared_ptr<SoFieldContainer> m_container;
     SoField &m_field;
     bool m_ignored;
+    bool m_wasDefault;
 };
 
 #endif

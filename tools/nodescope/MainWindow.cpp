@@ -5,12 +5,19 @@
 
 #include "FieldPanel.h"
 #include "FileActions.h"
+#include "KeptPlace.h"
 #include "MessageBar.h"
 #include "NodeEditor.h"
+#include "NodeOrigin.h"
 #include "PluginField.h"
+#include "PluginsDialog.h"
+#include "RecentFiles.h"
 #include "SceneDocument.h"
 #include "SceneTree.h"
 #include "SceneView.h"
+#include "SearchLine.h"
+#include "StartScreen.h"
+#include "ViewRoom.h"
 
 #include <HbFieldEditors.h>
 #include <HbGUIManager.h>
@@ -22,13 +29,16 @@
 #include <QCloseEvent>
 #include <QDockWidget>
 #include <QDragEnterEvent>
-#include <QFileInfo>
 #include <QLabel>
 #include <QMenuBar>
 #include <QMimeData>
+#include <QScreen>
 #include <QSettings>
 #include <QSplitter>
+#include <QStackedWidget>
 #include <QStatusBar>
+#include <QStyle>
+#include <QVBoxLayout>
 
 namespace
 {
@@ -46,7 +56,7 @@ QString droppedFile(const QMimeData *data)
 
 MainWindow::MainWindow(QWidget *parent)
     : HbGUIManagement(parent), m_document(new SceneDocument(this)), m_tree(new SceneTree),
-      m_editors(new QSplitter(Qt::Vertical)), m_nodeEditor(new NodeEditor),
+      m_search(new SearchLine(m_tree)), m_editors(new QSplitter(Qt::Vertical)), m_nodeEditor(new NodeEditor),
       m_panel(new FieldPanel(m_document->undoStack())), m_messages(new MessageBar),
       m_files(new FileActions(m_document, m_messages, this))
 {
@@ -59,17 +69,26 @@ MainWindow::MainWindow(QWidget *parent)
     createMenus();
     statusBar()->addWidget(m_messages, 1);
     setAcceptDrops(true);
-    resize(1200, 800);
+    const int title = style()->pixelMetric(QStyle::PM_TitleBarHeight, nullptr, this);
+    resize(QSize(1200, 800).boundedTo(screen()->availableSize() - QSize(title, 2 * title))); // with its frame
 
     connect(m_document, &SceneDocument::opened, this, &MainWindow::showDocument);
     connect(m_document, &SceneDocument::modifiedChanged, this, &MainWindow::setWindowModified);
     connect(m_files, &FileActions::sceneWanted, this, &MainWindow::finishEditing);
     connect(m_files, &FileActions::saved, this, &MainWindow::showTitle);
+    connect(m_tree, &SceneTree::nodeSelected, m_messages, &MessageBar::outdate);
+    connect(m_document->undoStack(), &QUndoStack::indexChanged, m_messages, &MessageBar::outdate);
     connect(m_tree, &SceneTree::nodeSelected, this, &MainWindow::showSelection);
     connect(m_tree, &SceneTree::rightClicked, this, &MainWindow::showContextMenu);
     connect(m_nodeEditor, &NodeEditor::message, m_messages, &MessageBar::add);
     connect(m_panel, &FieldPanel::message, m_messages, &MessageBar::add);
+    connect(m_panel, &FieldPanel::nodeWanted, this, &MainWindow::goTo);
+    connect(m_panel, &FieldPanel::fileWanted, this, &MainWindow::open, Qt::QueuedConnection);
+    new KeptPlace(m_files, m_tree, m_view, this);
     m_plugins = std::make_unique<HbGUIManager>(this);
+    m_pluginsDialog = new PluginsDialog(*m_plugins, this);
+    connect(m_pluginsDialog, &PluginsDialog::message, m_messages, &MessageBar::add,
+            Qt::QueuedConnection); // after what Coin has to say of it
     showDocument();
 }
 
@@ -82,14 +101,17 @@ MainWindow::~MainWindow()
 
 void MainWindow::createCentre()
 {
+    m_centre = new QStackedWidget(this);
+    m_centre->addWidget(new StartScreen(m_files));
+    setCentralWidget(m_centre);
     if (!SceneView::isSupported()) {
         auto *note = new QLabel(tr("This display draws no OpenGL,\nso there is no picture of the scene."), this);
         note->setAlignment(Qt::AlignCenter);
-        setCentralWidget(note);
+        m_centre->addWidget(note);
         return;
     }
     m_view = new SceneView(this);
-    setCentralWidget(m_view);
+    m_centre->addWidget(m_view);
     connect(m_view, &SceneView::picked, m_tree, &SceneTree::select);
 }
 
@@ -102,14 +124,22 @@ void MainWindow::createDocks()
         addDockWidget(area, dock);
         return dock;
     };
-    QDockWidget *scene = addDock(Qt::LeftDockWidgetArea, tr("Scene"), "sceneDock", m_tree);
+    auto *const searched = new QWidget;
+    auto *const column = new QVBoxLayout(searched);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    column->addWidget(m_search);
+    column->addWidget(m_tree, 1);
+    QDockWidget *scene = addDock(Qt::LeftDockWidgetArea, tr("Scene"), "sceneDock", searched);
     QDockWidget *fields = addDock(Qt::RightDockWidgetArea, tr("Fields"), "fieldsDock", m_editors);
     m_editors->addWidget(m_nodeEditor);
     m_editors->addWidget(m_panel);
     m_editors->setStretchFactor(1, 1);
     m_editors->setChildrenCollapsible(false);
     m_panel->setAccessibleName(tr("Fields of the selected node"));
-    resizeDocks({scene, fields}, {280, 420}, Qt::Horizontal);
+    searched->setMinimumWidth(14 * fontMetrics().averageCharWidth());
+    m_panel->setMinimumWidth(36 * fontMetrics().averageCharWidth());
+    m_room = new ViewRoom(*this, {{scene->objectName(), 280}, {fields->objectName(), 420}});
 }
 
 bool MainWindow::open(const QString &fileName)
@@ -125,12 +155,23 @@ bool MainWindow::select(const QString &path, QString *problem)
     return !found.isEmpty();
 }
 
+void MainWindow::rememberFiles()
+{
+    m_files->recent()->remember();
+}
+
 void MainWindow::rememberGeometry()
 {
     const QSettings settings;
+    m_room->restore();
     restoreGeometry(settings.value(geometryKey).toByteArray());
     restoreState(settings.value(stateKey).toByteArray());
     m_remembersGeometry = true;
+}
+
+void MainWindow::rememberPlugins()
+{
+    m_pluginsDialog->remember();
 }
 
 QWidget *MainWindow::getSceneWidget()
@@ -162,6 +203,7 @@ HbFieldEditors *MainWindow::createFieldEditor(SoField *field, const FieldEditorF
     if (made.editor) {
         auto *const row = new PluginField(*static_cast<SoNode *>(owner), *field, made); // owned by the editor
         connect(row, &PluginField::message, m_messages, &MessageBar::add);
+        connect(row, &PluginField::nodeWanted, this, &MainWindow::goTo);
     }
     return made.editor;
 }
@@ -169,6 +211,7 @@ HbFieldEditors *MainWindow::createFieldEditor(SoField *field, const FieldEditorF
 void MainWindow::pluginsChanged()
 {
     m_nodeEditor->setNode(m_tree->selectedNode());
+    m_pluginsDialog->keepChoice();
 }
 
 QStringList MainWindow::messages() const
@@ -186,6 +229,7 @@ void MainWindow::closeEvent(QCloseEvent *event)
         QSettings settings;
         settings.setValue(geometryKey, saveGeometry());
         settings.setValue(stateKey, saveState());
+        m_room->save();
     }
     event->accept();
 }
@@ -220,21 +264,34 @@ void MainWindow::finishEditing()
 void MainWindow::showSelection()
 {
     m_nodeEditor->setNode(m_tree->selectedNode());
+    m_nodeEditor->setEnabled(NodeOrigin::of(m_tree->selectedNode()).kind == NodeOrigin::Scene);
     m_panel->setNode(m_tree->selectedNode());
+    if (m_view)
+        m_view->setSelected(m_tree->pathOf(m_tree->currentItem()));
+}
+
+void MainWindow::goTo(SoNode *node)
+{
+    if (m_tree->selectNode(node))
+        m_tree->setFocus(Qt::OtherFocusReason);
+    else
+        m_messages->add(tr("The node does not stand in the tree of this scene."));
 }
 
 void MainWindow::showDocument()
 {
+    if (m_document->fileName() != windowFilePath())
+        m_search->clear();
     m_tree->setScene(m_document->root());
     if (m_view)
         m_view->setScene(m_document->root());
+    m_centre->setCurrentIndex(m_document->isOpen() ? 1 : 0);
     showTitle();
 }
 
 void MainWindow::showTitle()
 {
-    const QString name = QFileInfo(m_document->fileName()).fileName();
-    setWindowTitle(tr("%1[*] - nodescope").arg(name.isEmpty() ? tr("No scene") : name));
+    setWindowTitle(tr("%1[*] - nodescope").arg(m_document->title()));
     setWindowFilePath(m_document->fileName());
     setWindowModified(m_document->isModified());
 }

@@ -16,10 +16,14 @@ class FileActions;
 class HbGUIManager;
 class MessageBar;
 class NodeEditor;
+class PluginsDialog;
 class SceneDocument;
 class SceneTree;
 class SceneView;
 class QSplitter;
+class QStackedWidget;
+class SearchLine;
+class ViewRoom;
 class QTreeWidgetItem;
 
 /// The tool's window: the scene's tree, its picture, the editors of the selected node, messages, and plug-ins.
@@ -37,6 +41,10 @@ public:
     bool select(const QString &path, QString *problem);
     /// Takes size and places from the last time and keeps them for the next.
     void rememberGeometry();
+    /// Loads the plug-ins that were chosen the last time and keeps the choice for the next.
+    void rememberPlugins();
+    /// Lists the scenes of earlier runs as recent, and keeps those of this one.
+    void rememberFiles();
 
     QWidget *getSceneWidget() override;
     QWidget *getEditorsWidget() override;
@@ -71,21 +79,26 @@ private:
     void showSelection();
     void showDocument();
     void showTitle();
+    void goTo(SoNode *node);
     void showContextMenu(QTreeWidgetItem *item);
     void about();
 
     SceneDocument *m_document;
     SceneTree *m_tree;
+    SearchLine *m_search;
     QSplitter *m_editors; ///< of the selected node: its own, over those of its fields
     NodeEditor *m_nodeEditor;
     FieldPanel *m_panel;
+    QStackedWidget *m_centre = nullptr; ///< the start screen, or the view
     SceneView *m_view = nullptr;
     MessageBar *m_messages;
+    ViewRoom *m_room;
     FileActions *m_files;
     QMenu *m_viewMenu = nullptr;
     QMenu *m_toolsMenu = nullptr;
     std::optional<CoinMessages> m_coin; ///< what Coin says between reading and writing, say while drawing
     std::unique_ptr<HbGUIManager> m_plugins;
+    PluginsDialog *m_pluginsDialog;
     bool m_remembersGeometry = false;
 };
 

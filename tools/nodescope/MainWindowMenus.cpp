@@ -3,16 +3,23 @@
 
 #include "MainWindow.h"
 
-#include "FileActions.h"
+#include "Areas.h"
+#include "ControlsHelp.h"
+#include "FileMenu.h"
+#include "NodeHistory.h"
+#include "NodeOrigin.h"
 #include "SceneDocument.h"
 #include "SceneTree.h"
 #include "SceneView.h"
+#include "SearchLine.h"
+#include "ViewActions.h"
 
 #include <QApplication>
 #include <QClipboard>
 #include <QDockWidget>
 #include <QMenuBar>
 #include <QMessageBox>
+#include <QSplitter>
 
 void MainWindow::createMenus()
 {
@@ -25,17 +32,10 @@ void MainWindow::createMenus()
 
 void MainWindow::createFileMenu()
 {
-    QMenu *menu = menuBar()->addMenu(tr("&File"));
-    const auto add = [&](const QString &text, QKeySequence::StandardKey key, auto *receiver, auto slot) {
-        QAction *action = menu->addAction(text);
-        action->setShortcuts(key);
-        connect(action, &QAction::triggered, receiver, slot);
-    };
-    add(tr("&Open..."), QKeySequence::Open, m_files, &FileActions::chooseAndOpen);
-    add(tr("&Save"), QKeySequence::Save, m_files, &FileActions::save);
-    add(tr("Save &As..."), QKeySequence::SaveAs, m_files, &FileActions::saveAs);
-    menu->addSeparator();
-    add(tr("&Quit"), QKeySequence::Quit, static_cast<QWidget *>(this), &QWidget::close);
+    auto *menu = new FileMenu(m_files, this);
+    menuBar()->addMenu(menu);
+    QAction *quit = menu->addAction(tr("&Quit"), this, &QWidget::close);
+    quit->setShortcuts(QKeySequence::Quit);
 }
 
 void MainWindow::createEditMenu()
@@ -54,20 +54,24 @@ void MainWindow::createEditMenu()
     };
     add(stack->createUndoAction(this, tr("&Undo")), "undo", QKeySequence::Undo, &QUndoStack::undo);
     add(stack->createRedoAction(this, tr("&Redo")), "redo", QKeySequence::Redo, &QUndoStack::redo);
+    menu->addSeparator();
+    const auto addSearch = [&](const QString &text, QKeySequence::StandardKey key, void (SearchLine::*slot)()) {
+        QAction *const action = menu->addAction(text, m_search, slot);
+        action->setShortcuts(key);
+    };
+    addSearch(tr("&Find Node..."), QKeySequence::Find, &SearchLine::activate);
+    addSearch(tr("Find &Next"), QKeySequence::FindNext, &SearchLine::goToNext);
+    addSearch(tr("Find &Previous"), QKeySequence::FindPrevious, &SearchLine::goToPrevious);
+    menu->addSeparator();
+    (new NodeHistory(m_tree))->addTo(*menu);
 }
 
 void MainWindow::createViewMenu()
 {
     m_viewMenu = menuBar()->addMenu(tr("&View"));
-    if (m_view) {
-        m_viewMenu->addAction(tr("View &All"), m_view, &SceneView::viewAll)->setShortcut(tr("Ctrl+0"));
-        m_viewMenu->addAction(tr("&Home"), m_view, &SceneView::goHome)->setShortcut(tr("Ctrl+Home"));
-        QAction *headlight = m_viewMenu->addAction(tr("Head&light"));
-        headlight->setCheckable(true);
-        connect(headlight, &QAction::triggered, m_view, &SceneView::setHeadlight);
-        connect(m_view, &SceneView::headlightChanged, headlight, &QAction::setChecked);
-        m_viewMenu->addSeparator();
-    }
+    if (m_view)
+        addViewActions(*m_viewMenu, *m_view, *m_tree);
+    (new Areas(m_tree, m_view, m_editors))->addTo(*m_viewMenu);
     connect(m_viewMenu, &QMenu::aboutToShow, this, &MainWindow::listDocks);
 }
 
@@ -82,6 +86,7 @@ void MainWindow::listDocks()
 void MainWindow::createHelpMenu()
 {
     QMenu *menu = menuBar()->addMenu(tr("&Help"));
+    menu->addAction(tr("&Mouse and Keys..."), this, [this] { showControlsHelp(this); });
     connect(menu->addAction(tr("&About nodescope")), &QAction::triggered, this, &MainWindow::about);
 }
 
@@ -91,6 +96,11 @@ void MainWindow::showContextMenu(QTreeWidgetItem *item)
     menu->setAttribute(Qt::WA_DeleteOnClose);
     const QString path = pathText(m_document->root(), m_tree->pathOf(item));
     menu->addAction(tr("&Copy Path %1").arg(path), this, [path] { QGuiApplication::clipboard()->setText(path); });
+    SoNode *const node = SceneTree::nodeOf(item);
+    for (const NodeOrigin &origin : {NodeOrigin::namedBy(node), NodeOrigin::of(node)}) {
+        if (!origin.fileName.isEmpty())
+            menu->addAction(tr("&Open %1").arg(origin.name), this, [this, origin] { open(origin.fileName); });
+    }
     menu->popup(QCursor::pos());
 }
 

@@ -13,6 +13,7 @@ namespace
 {
 constexpr int mostMessages = 500;
 constexpr int linesShown = 6;
+constexpr int sameMoment = 250; // milliseconds
 } // namespace
 
 MessageBar::MessageBar(QWidget *parent)
@@ -23,6 +24,9 @@ MessageBar::MessageBar(QWidget *parent)
     m_last->setTextInteractionFlags(Qt::TextSelectableByMouse);
     m_more->setCheckable(true);
     m_more->setAutoRaise(true);
+    QSizePolicy keepsPlace = m_more->sizePolicy();
+    keepsPlace.setRetainSizeWhenHidden(true); // a first message moves nothing above
+    m_more->setSizePolicy(keepsPlace);
     m_more->hide();
     m_list->setAccessibleName(tr("Messages"));
     m_list->setWordWrap(true);
@@ -41,8 +45,12 @@ MessageBar::MessageBar(QWidget *parent)
 void MessageBar::add(const QString &text)
 {
     const int count = m_list->count();
-    if (count > 0 && m_list->item(count - 1)->text() == text)
+    m_sinceAdded.start();
+    m_isCurrent = true;
+    if (count > 0 && m_list->item(count - 1)->text() == text) {
+        showLast();
         return; // what is wrong in a picture is said again with every frame
+    }
     if (count == mostMessages)
         delete m_list->takeItem(0);
     m_list->addItem(text);
@@ -52,6 +60,14 @@ void MessageBar::add(const QString &text)
     showLast();
     QAccessibleEvent event(m_last, QAccessible::Alert);
     QAccessible::updateAccessibility(&event);
+}
+
+void MessageBar::outdate()
+{
+    if (!m_isCurrent || m_sinceAdded.elapsed() < sameMoment)
+        return;
+    m_isCurrent = false;
+    showText({});
 }
 
 QStringList MessageBar::messages() const
@@ -70,9 +86,12 @@ void MessageBar::resizeEvent(QResizeEvent *event)
 
 void MessageBar::showLast()
 {
-    if (m_list->count() == 0)
-        return;
-    const QString text = m_list->item(m_list->count() - 1)->text();
+    if (m_isCurrent)
+        showText(m_list->item(m_list->count() - 1)->text());
+}
+
+void MessageBar::showText(const QString &text)
+{
     m_last->setText(fontMetrics().elidedText(text, Qt::ElideMiddle, width() - m_more->sizeHint().width() - 16));
     m_last->setToolTip(text);
     m_last->setAccessibleName(text);

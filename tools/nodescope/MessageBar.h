@@ -4,6 +4,7 @@
 #ifndef MESSAGEBAR_H
 #define MESSAGEBAR_H
 
+#include <QElapsedTimer>
 #include <QWidget>
 
 class QLabel;
@@ -19,6 +20,9 @@ public:
     explicit MessageBar(QWidget *parent = nullptr);
 
     void add(const QString &text);
+    /// The last message is no longer about what is shown: only the list keeps it. What the same click or key has just
+    /// brought stays.
+    void outdate();
     QStringList messages() const;
 
 protected:
@@ -26,10 +30,13 @@ protected:
 
 private:
     void showLast();
+    void showText(const QString &text);
 
     QLabel *m_last;
     QToolButton *m_more;
     QListWidget *m_list;
+    bool m_isCurrent = false;
+    QElapsedTimer m_sinceAdded;
 };
 
 #endif

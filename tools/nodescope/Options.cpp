@@ -91,7 +91,8 @@ void describeOptions(QCommandLineParser &parser)
     add({QStringLiteral("allow-node-libraries")},
         "Runs shared libraries that are named after node types which the scene uses.");
     add({config}, "Prints the preferences, their values and where these come from.");
-    parser.addPositionalArgument(QStringLiteral("scene"), tr("The scene to open."), QStringLiteral("[scene]"));
+    parser.addPositionalArgument(QStringLiteral("scene"), tr("The scene to open; - reads standard input."),
+                                 QStringLiteral("[scene]"));
 }
 
 /// The text that was asked for in place of the window.

@@ -14,6 +14,7 @@ PluginField::PluginField(SoNode &node, SoField &field, const FieldRow::Made &mad
 {
     setParent(m_row.widget());
     connect(&m_row, &FieldRow::message, this, &PluginField::message);
+    connect(&m_row, &FieldRow::nodeWanted, this, &PluginField::nodeWanted);
     connect(&m_observer, &FieldObserver::nodeChanged, &m_row, &FieldRow::follow);
     connect(&m_observer, &FieldObserver::fieldChanged, this, [this](const SoField *changed) {
         if (changed == m_row.field())

@@ -25,6 +25,7 @@ public:
 
 Q_SIGNALS:
     void message(const QString &text);
+    void nodeWanted(SoNode *node);
 
 private:
     std::shared_ptr<SoNode> m_node;

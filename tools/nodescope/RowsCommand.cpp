@@ -6,6 +6,7 @@
 #include "CoinRef.h"
 #include "FieldRows.h"
 #include "FieldText.h"
+#include "KeptImages.h"
 #include "OneNotification.h"
 
 #include <QCoreApplication>
@@ -13,6 +14,7 @@
 #include <Inventor/fields/SoFieldContainer.h>
 #include <Inventor/fields/SoMField.h>
 
+#include <numeric>
 #include <utility>
 
 namespace
@@ -34,6 +36,7 @@ RowsCommand::RowsCommand(SoMField &field, std::vector<RowsChange> changes, bool 
 
 void RowsCommand::undo()
 {
+    const KeptImages kept(m_field);
     {
         const OneNotification once(m_field);
         for (auto change = m_changes.rbegin(); change != m_changes.rend(); ++change)
@@ -46,6 +49,7 @@ void RowsCommand::redo()
 {
     if (std::exchange(m_done, false))
         return;
+    const KeptImages kept(m_field);
     const OneNotification once(m_field);
     for (const RowsChange &change : m_changes)
         FieldRows::replace(m_field, change.row, change.before->getNum(), *change.after);
@@ -58,31 +62,50 @@ bool RowsCommand::mergeWith(const QUndoCommand *next)
         return false;
     m_changes[0].after = following->m_changes[0].after;
     setObsolete(FieldRows::areSame(*m_changes[0].before, *m_changes[0].after));
+    if (isObsolete())
+        m_field.setDefault(m_wasDefault); // there and back
     describe();
     return true;
 }
 
+/// Rows are called by the numbers that the table's headers show.
 void RowsCommand::describe()
 {
     const QString name = FieldText::qualifiedName(m_field);
     const RowsChange &change = m_changes[0];
     const int removed = change.before->getNum();
     const int added = change.after->getNum();
-    const int label = change.row + 1; // as the table has it
-    if (m_changes.size() > 1 || (removed == 2 && added == 2))
-        setText(translated("%1: move a row").arg(name));
+    const int first = change.row + 1;
+    const int last = change.row + qMax(removed, added);
+    if (m_changes.size() > 1 && added == 0)
+        setText(translated("%1: delete %2 rows").arg(name).arg(rowCountBefore()));
+    else if (m_changes.size() > 1)
+        setText(translated("%1: move row %2 to %3").arg(name).arg(first).arg(m_changes[1].row + 1));
     else if (removed == 0)
-        setText(added == 1 ? translated("%1: add row %2").arg(name).arg(label)
-                           : translated("%1: add %2 rows").arg(name).arg(added));
+        setText(rowText(translated("%1: add row %2"), translated("%1: add rows %2 to %3"), first, last));
     else if (added == 0)
-        setText(removed == 1 ? translated("%1: delete row %2").arg(name).arg(label)
-                             : translated("%1: delete %2 rows").arg(name).arg(removed));
+        setText(rowText(translated("%1: delete row %2"), translated("%1: delete rows %2 to %3"), first, last));
+    else if (last > first)
+        setText(translated("%1: change rows %2 to %3").arg(name).arg(first).arg(last));
     else
-        setText(QStringLiteral("%1[%2]: %3 %4 %5")
+        setText(translated("%1, row %2: %3 %4 %5")
                     .arg(name)
-                    .arg(change.row)
+                    .arg(first)
                     .arg(FieldText::value(*change.before, textLimit), QString(QChar(0x2192)),
-                         FieldText::value(*change.after, textLimit)));
+                         FieldText::value(*change.after, textLimit))
+                    .simplified());
+}
+
+int RowsCommand::rowCountBefore() const
+{
+    return std::accumulate(m_changes.begin(), m_changes.end(), 0,
+                           [](int sum, const RowsChange &change) { return sum + change.before->getNum(); });
+}
+
+QString RowsCommand::rowText(const QString &one, const QString &several, int first, int last) const
+{
+    const QString name = FieldText::qualifiedName(m_field);
+    return first == last ? one.arg(name).arg(first) : several.arg(name).arg(first).arg(last);
 }
 
 SwapColumnsCommand::SwapColumnsCommand(SoMField &field, int first, int second, bool wasDefault)

@@ -35,6 +35,8 @@ public:
 
 private:
     void describe();
+    int rowCountBefore() const;
+    QString rowText(const QString &one, const QString &several, int first, int last) const;
 
     std::shared_ptr<SoFieldContainer> m_container;
     SoMField &m_field;

@@ -28,13 +28,17 @@ SceneDocument::SceneDocument(QObject *parent) : QObject(parent)
 
 bool SceneDocument::open(const QString &fileName, QStringList *messages)
 {
+    const bool isPiped = fileName == standardInput;
+    const FileState state = isPiped ? FileState() : FileState(fileName); // from before, so that no change escapes
     SceneFile file = readScene(fileName);
     *messages = file.messages;
     if (!file.root)
         return false;
     m_undoStack.clear();
     std::swap(m_file, file); // the old scene lives until everyone has turned to the new one
-    m_fileName = QFileInfo(fileName).absoluteFilePath();
+    m_fileName = isPiped ? QString() : QFileInfo(fileName).absoluteFilePath();
+    m_fileState = state;
+    m_isOpen = true;
     m_watch.watch(root());
     m_undoMoved = false;
     setChangedElsewhere(false);
@@ -48,7 +52,13 @@ bool SceneDocument::save(const QString &fileName, QStringList *messages)
 {
     if (!writeScene(root(), m_file.format, fileName, messages))
         return false;
-    m_fileName = QFileInfo(fileName).absoluteFilePath();
+    const QFileInfo now(fileName);
+    if (m_fileName.isEmpty() || now.absolutePath() != QFileInfo(m_fileName).absolutePath())
+        m_file.directory = std::make_shared<SceneDirectory>(fileName);
+    m_fileName = now.absoluteFilePath();
+    m_fileState = FileState(m_fileName);
+    m_isOpen = true;
+    m_file.losses = {};
     m_undoStack.setClean();
     setChangedElsewhere(false);
     return true;
@@ -57,6 +67,30 @@ bool SceneDocument::save(const QString &fileName, QStringList *messages)
 bool SceneDocument::isModified() const
 {
     return m_changedElsewhere || !m_undoStack.isClean();
+}
+
+QString SceneDocument::title() const
+{
+    if (!m_isOpen)
+        return tr("No scene");
+    return m_fileName.isEmpty() ? tr("Standard input") : QFileInfo(m_fileName).fileName();
+}
+
+QString SceneDocument::suffix() const
+{
+    const QString plain = m_file.format.header.isEmpty() ? QStringLiteral("iv") : QStringLiteral("wrl");
+    return m_file.format.gzip ? plain + QStringLiteral(".gz") : plain;
+}
+
+bool SceneDocument::isFileTouched() const
+{
+    return !m_fileName.isEmpty() && !FileState(m_fileName).isUntouchedSince(m_fileState);
+}
+
+bool SceneDocument::isFile(const QString &fileName) const
+{
+    const FileState state(fileName);
+    return !m_fileName.isEmpty() && (m_fileName == fileName || state.isSameFile(m_fileState));
 }
 
 void SceneDocument::setChangedElsewhere(bool changed)

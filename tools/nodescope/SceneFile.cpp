@@ -5,8 +5,11 @@
 
 #include "CoinMessages.h"
 #include "CoinRef.h"
+#include "FileState.h"
+#include "SceneGuard.h"
 #include "SceneOutput.h"
 #include "ScenePath.h"
+#include "SourceText.h"
 
 #include <Inventor/SoDB.h>
 #include <Inventor/SoInput.h>
@@ -16,32 +19,16 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QSaveFile>
+#include <QTemporaryFile>
+
+#include <cerrno>
+#include <cstring>
 
 namespace
 {
-constexpr int mostLevels = 4000;
-
 QString tr(const char *text)
 {
     return QCoreApplication::translate("SceneFile", text);
-}
-
-/// Coin reads level by level on the stack, and would end the process. Binary and packed files are not looked into.
-bool isNestedTooDeeply(QIODevice &file)
-{
-    const QByteArray header = file.peek(32);
-    if (!header.contains("ascii") && !header.contains("utf8"))
-        return false;
-    int level = 0;
-    while (!file.atEnd()) {
-        const QByteArray block = file.read(1 << 16);
-        for (const char character : block) {
-            level += character == '{' ? 1 : character == '}' ? -1 : 0;
-            if (level > mostLevels)
-                return true;
-        }
-    }
-    return false;
 }
 
 QString whyUnreadable(const QString &fileName, QByteArray *start)
@@ -49,13 +36,17 @@ QString whyUnreadable(const QString &fileName, QByteArray *start)
     const QString name = QDir::toNativeSeparators(fileName);
     if (QFileInfo(fileName).isDir())
         return tr("%1 is a directory").arg(name);
+    const FileState state(fileName);
+    if (state.exists() && !state.isRegular()) // whose end may never come
+        return tr("%1 is a pipe or a device; what comes through a pipe is opened as standard input, named \"-\"")
+            .arg(name);
     QFile file(fileName);
     if (!file.open(QIODevice::ReadOnly))
         return tr("%1: %2").arg(name, file.errorString());
     *start = file.peek(2);
     if (start->isEmpty())
         return tr("%1 is empty").arg(name);
-    return isNestedTooDeeply(file) ? tr("%1 has more than %2 levels").arg(name).arg(mostLevels) : QString();
+    return whyUnsafe(fileName);
 }
 
 bool readTopLevelNodes(SoInput *input, SoGroup *root)
@@ -80,6 +71,98 @@ SceneFormat formatOf(SoInput &input, const QByteArray &start)
     return format;
 }
 
+QByteArray contentOf(SoNode *root, const SceneFormat &format, bool *hasUnreadableNumbers)
+{
+    SceneOutput output(format);
+    SoWriteAction(&output).apply(root);
+    *hasUnreadableNumbers = output.hasUnreadableNumbers();
+    return output.content();
+}
+
+/// Returns what went wrong.
+QString replaceFile(const QString &fileName, const QByteArray &content)
+{
+    const FileState before(fileName);
+    if (before.exists() && !before.isRegular())
+        return tr("it is no regular file, and is not replaced by one");
+    QSaveFile file(fileName);
+    if (!file.open(QIODevice::WriteOnly))
+        return file.errorString();
+    before.giveTo(file.handle());
+    errno = 0;
+    if (file.write(content) == content.size() && file.flush() && file.commit())
+        return {};
+    return errno != 0 ? QString::fromLocal8Bit(std::strerror(errno)) : file.errorString();
+}
+
+/// What drives a field may stand nowhere in the scene: whether it is written is known once it was.
+SaveLosses lossesOf(const QString &fileName, SoNode *root, SceneFormat format)
+{
+    const CoinMessages unheard;
+    const SourceText source = SourceText::ofFile(fileName);
+    SourceText written;
+    if (source.connections() > 0) {
+        bool hasUnreadableNumbers = false;
+        format.gzip = false;
+        written = SourceText::of(contentOf(root, format, &hasUnreadableNumbers));
+    }
+    return SaveLosses::between(source, written);
+}
+
+SceneFile readRegularFile(const QString &fileName)
+{
+    SceneFile file;
+    QByteArray start;
+    const QString problem = whyUnreadable(fileName, &start);
+    if (!problem.isEmpty()) {
+        file.messages = QStringList{problem};
+        return file;
+    }
+
+    const CoinMessages coin;
+    SoInput input;
+    const std::shared_ptr<SoSeparator> root = coinRef<SoSeparator>(new SceneRoot);
+    const bool opened = input.openFile(QFile::encodeName(fileName).constData());
+    const bool valid = opened && input.isValidFile();
+    const bool read = valid && readTopLevelNodes(&input, root.get());
+    if (read && containsItself(root.get())) {
+        file.messages = QStringList{tr("%1: a node of the scene contains itself").arg(fileName)};
+        root->removeAllChildren();
+        return file;
+    }
+    if (read) {
+        file.root = root;
+        file.format = formatOf(input, start);
+        file.losses = lossesOf(fileName, root.get(), file.format);
+    }
+    file.messages = coin.texts();
+    if (!file.root && file.messages.isEmpty())
+        file.messages.append(valid ? tr("%1 could not be read").arg(fileName)
+                                   : tr("%1 is no Inventor or VRML file").arg(fileName));
+    return file;
+}
+
+/// By way of a file, which can be looked into before Coin reads it.
+SceneFile readStandardInput()
+{
+    const QString name = tr("Standard input");
+    SceneFile file;
+    QFile input;
+    QTemporaryFile copy;
+    if (!input.open(stdin, QIODevice::ReadOnly) || !copy.open()) {
+        file.messages = QStringList{tr("%1: %2").arg(name, copy.errorString())};
+        return file;
+    }
+    const QByteArray content = input.readAll();
+    if (copy.write(content) != content.size() || !copy.flush()) {
+        file.messages = QStringList{tr("%1: %2").arg(name, copy.errorString())};
+        return file;
+    }
+    file = readRegularFile(copy.fileName());
+    file.messages.replaceInStrings(copy.fileName(), name);
+    return file;
+}
+
 } // namespace
 
 SceneDirectory::SceneDirectory(const QString &sceneFileName)
@@ -101,51 +184,25 @@ void SceneRoot::write(SoWriteAction *action)
 
 SceneFile readScene(const QString &fileName)
 {
-    SceneFile file;
-    QByteArray start;
-    const QString path = QFileInfo(fileName).absoluteFilePath();
-    const QString problem = whyUnreadable(path, &start);
-    if (!problem.isEmpty()) {
-        file.messages = QStringList{problem};
-        return file;
-    }
-
-    const CoinMessages coin;
-    file.directory = std::make_shared<SceneDirectory>(path);
-    SoInput input;
-    const std::shared_ptr<SoSeparator> root = coinRef<SoSeparator>(new SceneRoot);
-    const bool opened = input.openFile(QFile::encodeName(path).constData());
-    const bool valid = opened && input.isValidFile();
-    const bool read = valid && readTopLevelNodes(&input, root.get());
-    if (read && containsItself(root.get())) {
-        file.messages = QStringList{tr("%1: a node of the scene contains itself").arg(path)};
-        root->removeAllChildren();
-        return file;
-    }
-    if (read) {
-        file.root = root;
-        file.format = formatOf(input, start);
-    }
-    file.messages = coin.texts();
-    if (!file.root && file.messages.isEmpty())
-        file.messages.append(valid ? tr("%1 could not be read").arg(path)
-                                   : tr("%1 is no Inventor or VRML file").arg(path));
+    const bool isPiped = fileName == standardInput;
+    const QString path = isPiped ? QDir::current().filePath(fileName) : QFileInfo(fileName).absoluteFilePath();
+    const auto directory = std::make_shared<SceneDirectory>(path);
+    SceneFile file = isPiped ? readStandardInput() : readRegularFile(path);
+    file.directory = directory;
     return file;
 }
 
 bool writeScene(SoNode *root, const SceneFormat &format, const QString &fileName, QStringList *messages)
 {
     const CoinMessages coin;
-    SceneOutput output(format);
-    SoWriteAction(&output).apply(root);
-    const QByteArray content = output.content();
+    bool hasUnreadableNumbers = false;
+    const QByteArray content = contentOf(root, format, &hasUnreadableNumbers);
     messages->append(coin.texts());
-    if (output.hasUnreadableNumbers())
+    if (hasUnreadableNumbers)
         messages->append(tr("Infinite values were saved as the largest number, values that are no number as 0."));
-
-    QSaveFile file(fileName);
-    if (file.open(QIODevice::WriteOnly) && file.write(content) == content.size() && file.commit())
+    const QString problem = replaceFile(fileName, content);
+    if (problem.isEmpty())
         return true;
-    messages->append(tr("%1 could not be saved: %2").arg(QDir::toNativeSeparators(fileName), file.errorString()));
+    messages->append(tr("%1 could not be saved: %2").arg(QDir::toNativeSeparators(fileName), problem));
     return false;
 }

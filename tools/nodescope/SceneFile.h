@@ -4,6 +4,8 @@
 #ifndef SCENEFILE_H
 #define SCENEFILE_H
 
+#include "SaveLosses.h"
+
 #include <Inventor/nodes/SoSeparator.h>
 
 #include <QByteArray>
@@ -47,10 +49,15 @@ private:
 struct SceneFile {
     std::shared_ptr<SoSeparator> root;
     SceneFormat format;
+    SaveLosses losses;
     std::shared_ptr<SceneDirectory> directory; ///< textures are read when they are first drawn
     QStringList messages;
 };
 
+/// In place of a file's name: the scene comes through standard input.
+inline const QLatin1String standardInput("-");
+
+/// Reads a regular file, or standard input to its end.
 SceneFile readScene(const QString &fileName);
 
 /**

@@ -5,10 +5,10 @@
 
 #include "CoinRef.h"
 #include "FieldText.h"
+#include "NodeOrigin.h"
 #include "SceneTree.h"
 
 #include <Inventor/SbName.h>
-#include <Inventor/misc/SoChildList.h>
 #include <Inventor/nodes/SoNode.h>
 
 #include <QIcon>
@@ -47,23 +47,21 @@ QIcon sharedIcon(const QColor &colour)
 
 } // namespace
 
-SceneItem::SceneItem(SoNode *node) : m_node(coinRef(node))
+SceneItem::SceneItem(SoNode *node, const QString &field) : m_node(coinRef(node)), m_field(field)
 {
     updateIndicator();
 }
 
 void SceneItem::updateIndicator()
 {
-    const SoChildList *children = m_node->getChildren();
-    const bool any = children && children->getLength() > 0;
-    setChildIndicatorPolicy(any ? ShowIndicator : DontShowIndicator);
+    setChildIndicatorPolicy(hasChildren(m_node.get()) ? ShowIndicator : DontShowIndicator);
 }
 
 QVariant SceneItem::data(int column, int role) const
 {
     switch (role) {
     case Qt::DisplayRole:
-        return column == Type ? typeName() : QString::fromLatin1(m_node->getName().getString());
+        return column == Type ? typeName() : name();
     case Qt::ToolTipRole:
         return explanation();
     case Qt::AccessibleTextRole:
@@ -72,6 +70,10 @@ QVariant SceneItem::data(int column, int role) const
     case Qt::DecorationRole:
         if (column == Type && isShared())
             return sharedIcon(treeWidget()->palette().color(QPalette::Text));
+        return {};
+    case Qt::ForegroundRole:
+        if (NodeOrigin::of(node()).kind != NodeOrigin::Scene)
+            return treeWidget()->palette().brush(QPalette::Disabled, QPalette::Text);
         return {};
     case Qt::FontRole:
         if (isUnknown(node())) {
@@ -87,7 +89,18 @@ QVariant SceneItem::data(int column, int role) const
 
 QString SceneItem::typeName() const
 {
-    return FieldText::typeName(*m_node);
+    const QString type = FieldText::typeName(*m_node);
+    return m_field.isEmpty() ? type : SceneTree::tr("%1 in %2").arg(type, m_field);
+}
+
+/// With the file that the children come from.
+QString SceneItem::name() const
+{
+    const QString name = QString::fromLatin1(m_node->getName().getString());
+    const NodeOrigin origin = NodeOrigin::namedBy(node());
+    if (origin.kind == NodeOrigin::Scene)
+        return name;
+    return (name.isEmpty() ? name : name + QLatin1Char(' ')) + QChar(0x2190) + QLatin1Char(' ') + origin.name;
 }
 
 QString SceneItem::explanation() const
@@ -100,6 +113,10 @@ QString SceneItem::explanation() const
         lines.append(
             SceneTree::tr("Shared: stands in %1 places of the scene; a change shows in all of them.").arg(places));
     }
+    if (const NodeOrigin origin = NodeOrigin::namedBy(node()); origin.kind != NodeOrigin::Scene)
+        lines.append(SceneTree::tr("The nodes below it are read from %1.").arg(origin.name));
+    if (const NodeOrigin origin = NodeOrigin::of(node()); origin.kind != NodeOrigin::Scene)
+        lines.append(SceneTree::tr("Cannot be edited here: %1.").arg(origin.obstacle()));
     return lines.join(QLatin1Char('\n'));
 }
 

@@ -16,7 +16,8 @@ class SceneItem : public QTreeWidgetItem
 public:
     enum Column { Type, Name, ColumnCount };
 
-    explicit SceneItem(SoNode *node);
+    /// A node that only a field of the one above it holds comes with that field's name.
+    explicit SceneItem(SoNode *node, const QString &field = {});
 
     SoNode *node() const { return m_node.get(); }
     /// Whether the children have been made; until then the item only shows whether there are any.
@@ -28,10 +29,12 @@ public:
 
 private:
     QString typeName() const;
+    QString name() const;
     QString explanation() const;
     bool isShared() const;
 
     std::shared_ptr<SoNode> m_node;
+    QString m_field;
     bool m_filled = false;
 };
 

@@ -3,6 +3,8 @@
 
 #include "ScenePath.h"
 
+#include "NodesInFields.h"
+
 #include <QCoreApplication>
 
 #include <Inventor/SbName.h>
@@ -64,11 +66,41 @@ bool descendByName(Place *place, const QString &name)
 
 std::vector<SoNode *> childrenOf(const SoNode *node)
 {
+    std::vector<SoNode *> children = ownChildrenOf(node);
+    for (const HeldNode &held : heldNodes(*node))
+        children.push_back(held.node);
+    return children;
+}
+
+std::vector<SoNode *> ownChildrenOf(const SoNode *node)
+{
     const SoChildList *list = node->getChildren();
     std::vector<SoNode *> children(static_cast<std::size_t>(list ? list->getLength() : 0));
     for (std::size_t i = 0; i < children.size(); ++i)
         children[i] = (*list)[static_cast<int>(i)];
     return children;
+}
+
+bool hasChildren(const SoNode *node)
+{
+    const SoChildList *list = node->getChildren();
+    return (list && list->getLength() > 0) || !heldNodes(*node).empty();
+}
+
+bool leadsTo(SoNode *node, const SoNode *wanted)
+{
+    std::vector<SoNode *> open{node};
+    std::unordered_set<const SoNode *> seen{node};
+    while (!open.empty()) {
+        SoNode *const next = open.back();
+        open.pop_back();
+        if (next == wanted)
+            return true;
+        for (SoNode *const child : childrenOf(next))
+            if (seen.insert(child).second)
+                open.push_back(child);
+    }
+    return false;
 }
 
 bool containsItself(SoNode *root)
@@ -79,7 +111,7 @@ bool containsItself(SoNode *root)
         std::size_t next = 0;
     };
     std::unordered_map<SoNode *, bool> isOpen{{root, true}}; // a node on the way down is open
-    std::vector<Step> way{{root, childrenOf(root)}};
+    std::vector<Step> way{{root, ownChildrenOf(root)}};
     while (!way.empty()) {
         Step &step = way.back();
         if (step.next == step.children.size()) {
@@ -90,7 +122,7 @@ bool containsItself(SoNode *root)
         SoNode *const child = step.children[step.next++];
         const auto [known, isNew] = isOpen.emplace(child, true);
         if (isNew)
-            way.push_back({child, childrenOf(child)});
+            way.push_back({child, ownChildrenOf(child)});
         else if (known->second)
             return true;
     }

@@ -15,8 +15,15 @@ class SoNode;
 /// A way through a scene: which child to take at each level, from the root on.
 using ScenePath = QVector<int>;
 
-/// The children of any kind of node: a group's, a kit's parts, the nodes in a VRML node's fields.
+/// What stands below any kind of node: a group's children, a kit's parts, the nodes in a VRML node's fields; and behind
+/// these the nodes that its fields hold otherwise, which no path of Coin's leads to.
 std::vector<SoNode *> childrenOf(const SoNode *node);
+/// Without the nodes that only fields hold.
+std::vector<SoNode *> ownChildrenOf(const SoNode *node);
+bool hasChildren(const SoNode *node);
+
+/// Whether @p wanted is @p node or stands somewhere below it.
+bool leadsTo(SoNode *node, const SoNode *wanted);
 
 /// Whether a node stands below itself: such a scene can be read, but never drawn or saved.
 bool containsItself(SoNode *root);

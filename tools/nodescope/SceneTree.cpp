@@ -4,27 +4,34 @@
 #include "SceneTree.h"
 
 #include "CoinRef.h"
+#include "NodeOrigin.h"
+#include "NodesInFields.h"
 #include "SceneItem.h"
+#include "SceneSearch.h"
 
-#include <Inventor/misc/SoChildList.h>
 #include <Inventor/nodes/SoNode.h>
 
 #include <QContextMenuEvent>
 #include <QElapsedTimer>
 #include <QHeaderView>
+#include <QScrollBar>
 
 #include <algorithm>
 
 SceneTree::SceneTree(QWidget *parent) : HbGUITreeviewManagement(parent)
 {
-    setColumnCount(SceneItem::ColumnCount);
-    setHeaderLabels({tr("Type"), tr("Name")});
-    header()->resizeSection(SceneItem::Type, 170);
+    setUpColumns();
     setUniformRowHeights(true); // the height of 100,000 rows is asked for once
     setAccessibleName(tr("Scene"));
     connect(this, &QTreeWidget::itemExpanded, this, &SceneTree::fill);
+    connect(this, &QTreeWidget::itemExpanded, this, &SceneTree::widenTypes);
+    connect(verticalScrollBar(), &QScrollBar::valueChanged, this, &SceneTree::widenTypes);
     connect(this, &QTreeWidget::currentItemChanged, this,
             [this](QTreeWidgetItem *item) { Q_EMIT nodeSelected(nodeOf(item)); });
+    connect(this, &QTreeWidget::itemSelectionChanged, this, [this] {
+        if (selectedItems().isEmpty())
+            setCurrentItem(nullptr); // what is not shown as selected is not
+    });
     m_follow.setSingleShot(true);
     connect(&m_follow, &QTimer::timeout, this, &SceneTree::follow);
     connect(&m_watch, &SceneWatch::structureChanged, this, [this] {
@@ -33,7 +40,60 @@ SceneTree::SceneTree(QWidget *parent) : HbGUITreeviewManagement(parent)
     });
 }
 
-SceneTree::~SceneTree() = default;
+void SceneTree::setUpColumns()
+{
+    setColumnCount(SceneItem::ColumnCount);
+    setHeaderLabels({tr("Type"), tr("Name")});
+    setIndentation(2 * fontMetrics().averageCharWidth());
+    header()->setStretchLastSection(false);
+    header()->setResizeContentsPrecision(0); // what can be seen
+    header()->setMinimumSectionSize(6 * fontMetrics().averageCharWidth());
+    header()->setSectionResizeMode(SceneItem::Type, QHeaderView::Fixed);
+    header()->setSectionResizeMode(SceneItem::Name, QHeaderView::Stretch);
+}
+
+/// The types never become narrower while a scene is shown: the names would jump to and fro.
+void SceneTree::widenTypes()
+{
+    const int wanted = std::max(sizeHintForColumn(SceneItem::Type), header()->sectionSizeHint(SceneItem::Type));
+    if (wanted > header()->sectionSize(SceneItem::Type))
+        header()->resizeSection(SceneItem::Type, wanted);
+}
+
+void SceneTree::resizeEvent(QResizeEvent *event)
+{
+    HbGUITreeviewManagement::resizeEvent(event);
+    widenTypes();
+}
+
+/// The keyboard alone selects nothing.
+void SceneTree::focusInEvent(QFocusEvent *event)
+{
+    const QSignalBlocker quiet(this);
+    const bool wasNothing = !currentItem();
+    HbGUITreeviewManagement::focusInEvent(event);
+    if (wasNothing)
+        setCurrentItem(nullptr);
+}
+
+void SceneTree::scrollTo(const QModelIndex &index, ScrollHint hint)
+{
+    QScrollBar *const sideways = horizontalScrollBar();
+    const int before = sideways->value();
+    HbGUITreeviewManagement::scrollTo(index, hint);
+    widenTypes();
+    sideways->setValue(before);
+    const int start = visualRect(index.siblingAtColumn(SceneItem::Type)).left();
+    const int end = start + sizeHintForIndex(index.siblingAtColumn(SceneItem::Type)).width();
+    const int beyond = std::min(end - viewport()->width(), start);
+    if (start < 0 || beyond > 0)
+        sideways->setValue(before + (start < 0 ? start : beyond));
+}
+
+SceneTree::~SceneTree()
+{
+    NodeOrigin::setScene(nullptr);
+}
 
 void SceneTree::setScene(SoNode *root)
 {
@@ -42,10 +102,13 @@ void SceneTree::setScene(SoNode *root)
     m_places.clear();
     m_root = coinRef(root);
     m_watch.watch(root);
+    header()->resizeSection(SceneItem::Type, header()->sectionSizeHint(SceneItem::Type));
+    NodeOrigin::setScene(root);
     if (root)
         matchChildren(invisibleRootItem(), childrenOf(root));
     if (topLevelItemCount() == 1)
         topLevelItem(0)->setExpanded(true);
+    widenTypes();
     Q_EMIT newSceneGraph();
 }
 
@@ -62,6 +125,22 @@ void SceneTree::select(const ScenePath &path)
     setCurrentItem(item);
     if (item && item == currentItem()) // who hears of it may select another, or open another scene
         scrollToItem(item);
+}
+
+bool SceneTree::selectNode(SoNode *node)
+{
+    ScenePath path;
+    const std::vector<SoNode *> below = selectedNode() ? childrenOf(selectedNode()) : std::vector<SoNode *>();
+    const auto held = std::find(below.begin(), below.end(), node);
+    if (held != below.end()) {
+        path = pathOf(currentItem());
+        path.append(static_cast<int>(held - below.begin()));
+    } else {
+        path = SceneSearch(m_root.get(), [node](const SoNode &one) { return &one == node; }).place(0);
+    }
+    if (!path.isEmpty())
+        select(path);
+    return !path.isEmpty();
 }
 
 SoNode *SceneTree::selectedNode() const
@@ -96,10 +175,9 @@ void SceneTree::countPlaces() const
     m_places[m_root.get()] = 1;
     std::vector<const SoNode *> open{m_root.get()};
     while (!open.empty()) {
-        const SoChildList *children = open.back()->getChildren();
+        const std::vector<SoNode *> children = childrenOf(open.back());
         open.pop_back();
-        for (int i = 0; children && i < children->getLength(); ++i) {
-            const SoNode *child = (*children)[i];
+        for (const SoNode *const child : children) {
             const bool onlyHere = child->getRefCount() == 1; // its parent's; saves the look-up for most nodes
             if (onlyHere || ++m_places[child] == 1)
                 open.push_back(child);
@@ -128,6 +206,7 @@ void SceneTree::follow()
     QElapsedTimer time;
     time.start();
     m_places.clear();
+    NodeOrigin::setScene(m_root.get());
     refreshBranch(invisibleRootItem(), m_root.get());
     viewport()->update();
     m_follow.setInterval(static_cast<int>(10 * time.elapsed())); // so that a moving scene leaves time for the user
@@ -161,9 +240,16 @@ void SceneTree::matchChildren(QTreeWidgetItem *item, const std::vector<SoNode *>
         ++behind;
 
     removeChildren(item, before, oldCount - before - behind);
+    const SoNode *const parent = nodeOf(item) ? nodeOf(item) : m_root.get();
+    const std::vector<HeldNode> held = parent ? heldNodes(*parent) : std::vector<HeldNode>();
+    const auto fieldAt = [&](int row) { // they come last
+        const int index = row - newCount + static_cast<int>(held.size());
+        return index < 0 ? QString() : QString::fromLatin1(held[static_cast<std::size_t>(index)].field.getString());
+    };
     QList<QTreeWidgetItem *> fresh;
     for (int row = before; row < newCount - behind; ++row)
-        fresh.append(new SceneItem(nodes[static_cast<std::size_t>(row)])); // owned by the tree from here on
+        fresh.append(
+            new SceneItem(nodes[static_cast<std::size_t>(row)], fieldAt(row))); // owned by the tree from here on
     item->insertChildren(before, fresh);
 }
 

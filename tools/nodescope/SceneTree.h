@@ -33,6 +33,9 @@ public:
 
     /// Opens the branches on the way and selects the node there; an empty path selects nothing.
     void select(const ScenePath &path);
+    /// Selects a node wherever it stands, first below the selected one; false if it does not stand in the scene.
+    bool selectNode(SoNode *node);
+    SoNode *root() const { return m_root.get(); }
     /// Null where nothing is selected.
     SoNode *selectedNode() const;
 
@@ -41,14 +44,21 @@ public:
     /// In how many places of the scene a node stands.
     int placesOf(const SoNode *node) const;
 
+    /// Sideways as far as to the text.
+    void scrollTo(const QModelIndex &index, ScrollHint hint = EnsureVisible) override;
+
 Q_SIGNALS:
     /// Null: nothing is selected any more.
     void nodeSelected(SoNode *node);
 
 protected:
     void contextMenuEvent(QContextMenuEvent *event) override;
+    void focusInEvent(QFocusEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
 
 private:
+    void setUpColumns();
+    void widenTypes();
     void countPlaces() const;
     void fill(QTreeWidgetItem *item);
     void follow();

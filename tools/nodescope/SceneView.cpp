@@ -6,12 +6,12 @@
 #include "CoinRef.h"
 #include "ViewRenderAction.h"
 
-#include <Inventor/SoFullPath.h>
-#include <Inventor/SoPickedPoint.h>
+#include <Inventor/SbLine.h>
+#include <Inventor/SbPlane.h>
 #include <Inventor/VRMLnodes/SoVRMLLight.h>
-#include <Inventor/actions/SoRayPickAction.h>
 #include <Inventor/actions/SoSearchAction.h>
 #include <Inventor/elements/SoGLCacheContextElement.h>
+#include <Inventor/misc/SoChildList.h>
 #include <Inventor/misc/SoContextHandler.h>
 #include <Inventor/nodes/SoCamera.h>
 #include <Inventor/nodes/SoDirectionalLight.h>
@@ -21,6 +21,7 @@
 #include <QApplication>
 #include <QMouseEvent>
 #include <QOpenGLContext>
+#include <QOpenGLFunctions>
 
 #include <algorithm>
 #include <cmath>
@@ -30,10 +31,8 @@ namespace
 {
 
 constexpr float orbitPerPixel = 0.008F;
-constexpr float orbitPerKey = 0.12F;
-constexpr float panPerKey = 0.05F;
 constexpr float zoomPerPixel = 1.005F;
-constexpr float zoomPerKey = 1.15F;
+constexpr float zoomPerStep = 1.15F;
 
 QSurfaceFormat surfaceFormat()
 {
@@ -103,18 +102,41 @@ SceneView::~SceneView()
 void SceneView::setScene(SoNode *root)
 {
     m_scene = coinRef(root);
+    m_selected.reset();
+    m_shown = false;
     setHeadlight(!hasLight(root));
     goHome();
+}
+
+void SceneView::setSelected(const ScenePath &indices)
+{
+    m_selected.reset();
+    if (!indices.isEmpty()) {
+        m_selected = coinRef(new SoPath(m_superRoot.get()));
+        m_selected->append(m_superRoot->getNumChildren() - 1);
+        const SoNode *parent = m_scene.get();
+        for (const int index : indices) {
+            const SoChildList *const children = parent->getChildren();
+            if (!children || index >= children->getLength())
+                break; // only a field holds that node: its owner stands for it
+            m_selected->append(index);
+            parent = (*children)[index];
+        }
+    }
+    update();
 }
 
 /// Puts the camera and the scene behind the headlight.
 void SceneView::useCamera()
 {
     SoCamera *camera = m_camera.node();
-    while (m_superRoot->getNumChildren() > 1)
-        m_superRoot->removeChild(1);
-    m_superRoot->addChild(camera);
-    m_superRoot->addChild(m_scene.get());
+    if (m_superRoot->getNumChildren() == 1) {
+        m_superRoot->addChild(camera);
+        m_superRoot->addChild(m_scene.get());
+    }
+    m_superRoot->replaceChild(1, camera);
+    if (m_superRoot->getChild(2) != m_scene.get())
+        m_superRoot->replaceChild(2, m_scene.get()); // a path through it ends there
     m_manager->setCamera(camera);
     m_action->setCamera(camera);
     m_cameraSensor.detach();
@@ -125,14 +147,35 @@ void SceneView::useCamera()
 void SceneView::viewAll()
 {
     m_camera.viewAll(m_scene.get(), viewport());
-    m_atHome = false;
+}
+
+void SceneView::frameSelected()
+{
+    if (m_selected)
+        m_camera.frame(*m_selected, viewport());
+    else
+        viewAll();
 }
 
 void SceneView::goHome()
 {
     m_camera.goHome(m_scene.get(), viewport());
     useCamera();
-    m_atHome = true;
+}
+
+void SceneView::orbit(float right, float up)
+{
+    m_camera.orbit(right, up);
+}
+
+void SceneView::pan(float right, float up)
+{
+    m_camera.pan(right, up);
+}
+
+void SceneView::zoom(float factor)
+{
+    m_camera.zoom(factor, m_camera.focus());
 }
 
 void SceneView::setHeadlight(bool on)
@@ -158,6 +201,7 @@ void SceneView::releaseGL()
     if (!context())
         return;
     makeCurrent();
+    m_outline.releaseGL();
     SoContextHandler::destructingContext(m_action->getCacheContext());
     doneCurrent();
 }
@@ -167,8 +211,30 @@ void SceneView::paintGL()
     m_manager->setViewportRegion(viewport());
     if (m_scene)
         m_camera.clip(m_scene.get(), viewport());
+    context()->functions()->glEnable(GL_DEPTH_TEST); // Coin takes it for granted
     m_manager->render();
+    if (m_selected)
+        drawOutline();
+    makeOpaque();
+    m_shown = true;
     Q_EMIT painted();
+}
+
+/// What is see-through lets the scene shine through, not what the window has behind the view.
+void SceneView::makeOpaque()
+{
+    QOpenGLFunctions &gl = *context()->functions();
+    gl.glColorMask(GL_FALSE, GL_FALSE, GL_FALSE, GL_TRUE);
+    gl.glClearColor(0, 0, 0, 1);
+    gl.glClear(GL_COLOR_BUFFER_BIT);
+    gl.glColorMask(GL_TRUE, GL_TRUE, GL_TRUE, GL_TRUE);
+}
+
+void SceneView::drawOutline()
+{
+    const float width = static_cast<float>(fontMetrics().height() * devicePixelRatioF() / 7);
+    const QColor colour = palette().color(QPalette::Active, QPalette::Highlight);
+    m_outline.draw(*m_action, m_selected.get(), size() * devicePixelRatioF(), colour, width);
 }
 
 SbViewportRegion SceneView::viewport() const
@@ -180,8 +246,8 @@ SbViewportRegion SceneView::viewport() const
 void SceneView::resizeEvent(QResizeEvent *event)
 {
     QOpenGLWidget::resizeEvent(event);
-    if (m_scene && m_atHome)
-        goHome(); // what fits depends on the shape of the window
+    if (m_scene && !m_shown)
+        goHome(); // what fits depends on the shape of the window; what is seen stays
 }
 
 void SceneView::mousePressEvent(QMouseEvent *event)
@@ -202,12 +268,11 @@ void SceneView::mouseMoveEvent(QMouseEvent *event)
     const float side = static_cast<float>(std::min(width(), height()));
     const bool shift = event->modifiers() & Qt::ShiftModifier;
     if (event->buttons() & Qt::RightButton)
-        m_camera.zoom(std::pow(zoomPerPixel, -down));
+        zoom(std::pow(zoomPerPixel, -down));
     else if (shift || event->buttons() & Qt::MiddleButton)
-        m_camera.pan(right / side, -down / side);
+        pan(right / side, -down / side);
     else
-        m_camera.orbit(-right * orbitPerPixel, down * orbitPerPixel);
-    m_atHome = false;
+        orbit(-right * orbitPerPixel, down * orbitPerPixel);
 }
 
 void SceneView::mouseReleaseEvent(QMouseEvent *event)
@@ -219,44 +284,12 @@ void SceneView::mouseReleaseEvent(QMouseEvent *event)
 void SceneView::wheelEvent(QWheelEvent *event)
 {
     constexpr float stepAngle = 120;
-    m_camera.zoom(std::pow(zoomPerKey, static_cast<float>(event->angleDelta().y()) / stepAngle));
-    m_atHome = false;
+    const QPoint mouse = event->position().toPoint();
+    if (!m_zoomPoint || m_last != mouse)
+        m_zoomPoint = pointAt(mouse);
+    m_last = mouse;
+    m_camera.zoom(std::pow(zoomPerStep, static_cast<float>(event->angleDelta().y()) / stepAngle), *m_zoomPoint);
     event->accept();
-}
-
-void SceneView::keyPressEvent(QKeyEvent *event)
-{
-    const auto turn = [&](float right, float up) {
-        if (event->modifiers() & Qt::ShiftModifier)
-            m_camera.pan(right * panPerKey, up * panPerKey);
-        else
-            m_camera.orbit(right * orbitPerKey, up * orbitPerKey);
-    };
-    switch (event->key()) {
-    case Qt::Key_Left:
-        turn(-1, 0);
-        break;
-    case Qt::Key_Right:
-        turn(1, 0);
-        break;
-    case Qt::Key_Up:
-        turn(0, 1);
-        break;
-    case Qt::Key_Down:
-        turn(0, -1);
-        break;
-    case Qt::Key_Plus:
-    case Qt::Key_Equal:
-        m_camera.zoom(zoomPerKey);
-        break;
-    case Qt::Key_Minus:
-        m_camera.zoom(1 / zoomPerKey);
-        break;
-    default:
-        QOpenGLWidget::keyPressEvent(event);
-        return;
-    }
-    m_atHome = false;
 }
 
 void SceneView::changeEvent(QEvent *event)
@@ -274,24 +307,41 @@ void SceneView::updateBackground()
     update();
 }
 
+/// The middle of a pixel, counted from 0 to 1 from the left and from below.
+SbVec2f SceneView::placeOf(const QPoint &position) const
+{
+    return SbVec2f((static_cast<float>(position.x()) + 0.5F) / static_cast<float>(width()),
+                   1 - (static_cast<float>(position.y()) + 0.5F) / static_cast<float>(height()));
+}
+
+/// Where the line of sight through a pixel meets the scene, or else the plane looked at.
+SbVec3f SceneView::pointAt(const QPoint &position)
+{
+    if (const std::optional<ScenePicker::Hit> hit = hitAt(position))
+        return hit->point;
+    SbViewportRegion region;
+    const SbViewVolume volume = m_camera.node()->getViewVolume(viewport(), region);
+    SbLine sight;
+    volume.projectPointToLine(placeOf(position), sight);
+    SbVec3f point;
+    SbPlane(m_camera.direction(), m_camera.focus()).intersect(sight, point);
+    return point;
+}
+
+std::optional<ScenePicker::Hit> SceneView::hitAt(const QPoint &position)
+{
+    makeCurrent();
+    m_manager->setViewportRegion(viewport());
+    m_camera.clip(m_scene.get(), viewport());
+    ScenePicker picker(m_superRoot.get(), m_camera.node(), *m_action);
+    const double reach = QApplication::startDragDistance() / 2 * devicePixelRatioF();
+    const std::optional<ScenePicker::Hit> hit = picker.hitAt(placeOf(position), static_cast<float>(reach));
+    doneCurrent();
+    return hit;
+}
+
 void SceneView::pick(const QPoint &position)
 {
-    SbViewportRegion region = viewport();
-    const SbViewVolume volume = m_camera.node()->getViewVolume(viewport(), region);
-    SbVec3f start;
-    SbVec3f direction;
-    const SbVec2f place(static_cast<float>(position.x()) / static_cast<float>(width()),
-                        1 - static_cast<float>(position.y()) / static_cast<float>(height()));
-    volume.projectPointToLine(place, start, direction);
-    SoRayPickAction action(region);
-    action.setRay(start, direction); // in world space, so that the scene's own cameras do not matter
-    action.apply(m_scene.get());
-    const SoPickedPoint *point = action.getPickedPoint();
-    if (!point)
-        return;
-    const auto *path = static_cast<SoFullPath *>(point->getPath());
-    ScenePath indices;
-    for (int i = 1; i < path->getLength(); ++i)
-        indices.append(path->getIndex(i));
-    Q_EMIT picked(indices);
+    const std::optional<ScenePicker::Hit> hit = hitAt(position);
+    Q_EMIT picked(hit ? hit->path : ScenePath());
 }

@@ -5,12 +5,16 @@
 #define SCENEVIEW_H
 
 #include "ScenePath.h"
+#include "ScenePicker.h"
+#include "SelectionOutline.h"
 #include "ViewCamera.h"
 
 #include <Inventor/SoRenderManager.h>
 #include <Inventor/sensors/SoNodeSensor.h>
 
 #include <QOpenGLWidget>
+
+#include <optional>
 
 class SoSeparator;
 class SoSwitch;
@@ -20,10 +24,10 @@ class ViewRenderAction;
  * A scene in three dimensions.
  *
  * The scene stands beside the view's own camera and headlight, not above them: neither is ever part of what
- * is saved. Drawn again only when something that shows has changed.
+ * is saved. Drawn again only when something that shows has changed. Another size of the view does not move the camera.
  *
- * Left button: orbit; middle button, or left with Shift: pan; right button or wheel: zoom; a click picks.
- * Arrow keys orbit, with Shift they pan; + and - zoom.
+ * Left button: orbit; middle button, or left with Shift: pan; right button: zoom; wheel: zoom to the mouse; a click
+ * picks. The keys are those of addViewActions().
  */
 class SceneView : public QOpenGLWidget
 {
@@ -38,15 +42,26 @@ public:
 
     void setScene(SoNode *root);
 
+    /// The node whose shapes are outlined; an empty path outlines none.
+    void setSelected(const ScenePath &path);
+
     void viewAll();
+    void frameSelected();
     void goHome();
+    /// Turns around the point looked at, by angles in radians.
+    void orbit(float right, float up);
+    /// Moves the picture by fractions of its shorter side.
+    void pan(float right, float up);
+    /// Makes everything larger by @p factor.
+    void zoom(float factor);
+    const ViewCamera &camera() const { return m_camera; }
     void setHeadlight(bool on);
     bool hasHeadlight() const;
 
 Q_SIGNALS:
     /// A frame was drawn.
     void painted();
-    /// The user clicked at the node there.
+    /// The user clicked at the node there; empty: at nothing.
     void picked(const ScenePath &path);
     void headlightChanged(bool on);
 
@@ -58,7 +73,6 @@ protected:
     void mouseMoveEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
     void wheelEvent(QWheelEvent *event) override;
-    void keyPressEvent(QKeyEvent *event) override;
     void changeEvent(QEvent *event) override;
 
 private:
@@ -66,7 +80,12 @@ private:
     void updateBackground();
     void releaseGL();
     SbViewportRegion viewport() const;
+    std::optional<ScenePicker::Hit> hitAt(const QPoint &position);
     void pick(const QPoint &position);
+    void makeOpaque();
+    void drawOutline();
+    SbVec2f placeOf(const QPoint &position) const;
+    SbVec3f pointAt(const QPoint &position);
 
     std::shared_ptr<SoSeparator> m_superRoot; ///< headlight, camera, scene
     SoSwitch *m_headlight;
@@ -75,7 +94,10 @@ private:
     SoNodeSensor m_cameraSensor; ///< on the scene's own camera: what is edited there shows
     std::unique_ptr<ViewRenderAction> m_action;
     std::unique_ptr<SoRenderManager> m_manager;
-    bool m_atHome = true; ///< not moved since
+    std::shared_ptr<SoPath> m_selected; ///< from the super root on
+    SelectionOutline m_outline;
+    bool m_shown = false; ///< since the scene is another
+    std::optional<SbVec3f> m_zoomPoint; ///< under the mouse, until that moves
     QPoint m_pressed;
     QPoint m_last;
     bool m_dragging = false;

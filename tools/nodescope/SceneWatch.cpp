@@ -8,7 +8,11 @@
 
 #include <Inventor/fields/SoMFNode.h>
 #include <Inventor/fields/SoSFNode.h>
+#include <Inventor/fields/SoSFString.h>
 #include <Inventor/misc/SoNotification.h>
+#include <Inventor/nodes/SoFile.h>
+#include <Inventor/nodes/SoRotor.h>
+#include <Inventor/nodes/SoWWWInline.h>
 #include <Inventor/sensors/SoNodeSensor.h>
 
 #include <utility>
@@ -34,6 +38,24 @@ bool holdsNodes(const SoField &field)
     return field.isOfType(SoSFNode::getClassTypeId()) || field.isOfType(SoMFNode::getClassTypeId());
 }
 
+/// A rotor turns by a sensor of its own.
+bool isTurning(const SoField &field)
+{
+    const SoFieldContainer *const container = field.getContainer();
+    if (!container || !container->isOfType(SoRotor::getClassTypeId()))
+        return false;
+    const auto &rotor = static_cast<const SoRotor &>(*container);
+    return &field == &rotor.rotation && rotor.on.getValue();
+}
+
+/// The nodes below are another file's then.
+bool namesFile(const SoField &field)
+{
+    SoFieldContainer *const container = field.getContainer();
+    return field.isOfType(SoSFString::getClassTypeId()) && container
+        && (container->isOfType(SoFile::getClassTypeId()) || container->isOfType(SoWWWInline::getClassTypeId()));
+}
+
 Change changeOf(SoNotList &list)
 {
     SoNotRec *record = list.getFirstRecAtNode();
@@ -45,7 +67,10 @@ Change changeOf(SoNotList &list)
         return Change::Touch;
     if (holdsNodes(*field)) // a kit's part, or anything at all below a VRML group
         return Change::Unclear;
-    return field->isConnected() || field->getFieldType() == SoField::EVENTOUT_FIELD ? Change::Driven : Change::Value;
+    if (namesFile(*field))
+        return Change::Structure;
+    const bool isDriven = field->isConnected() || field->getFieldType() == SoField::EVENTOUT_FIELD || isTurning(*field);
+    return isDriven ? Change::Driven : Change::Value;
 }
 
 } // namespace

@@ -3,25 +3,39 @@
 
 #include "TableManager.h"
 
-#include "FieldCommand.h"
+#include "EditorTable.h"
+#include "ExactNumbers.h"
 #include "FieldRows.h"
 #include "FieldText.h"
-#include "MatrixRows.h"
+#include "KeptImages.h"
 #include "OneNotification.h"
+#include "RowBox.h"
+#include "TableControls.h"
+#include "UntouchedParts.h"
 #include "WriteWatch.h"
 
 #include <HbMFieldTable.h>
 #include <HbMFieldWidget.h>
+#include <HbRealSlider.h>
 #include <HbTablePopupWidget.h>
 
 #include <QHeaderView>
-#include <QKeyEvent>
+#include <QScopedValueRollback>
+#include <QSignalBlocker>
+#include <QSpinBox>
 #include <QUndoStack>
 
 #include <Inventor/SbString.h>
-#include <Inventor/fields/SoMField.h>
+#include <Inventor/fields/SoMFColor.h>
 
+#include <algorithm>
+#include <array>
 #include <utility>
+
+TableManager::~TableManager()
+{
+    m_cells.reset(); // while what they set is there
+}
 
 void TableManager::setEditor(HbFieldEditors *editor)
 {
@@ -31,44 +45,48 @@ void TableManager::setEditor(HbFieldEditors *editor)
     if (!m_table || !widget) // of a plug-in, which edits the values in some way of its own
         return;
     connect(m_table, &QTableWidget::currentCellChanged, this, &TableManager::supplyText);
-    connect(stack(), &QUndoStack::indexChanged, this, &TableManager::stackMoved);
-    m_cells.emplace(*m_table);
-    connect(&*m_cells, &CellEditors::changed, this, &TableManager::cellEditorsChanged);
-    connect(&*m_cells, &CellEditors::sliderPressed, this, &TableManager::remember);
-    connect(&*m_cells, &CellEditors::sliderDragged, this, &TableManager::noteDrag);
-    connect(&*m_cells, &CellEditors::sliderStepped, this, &TableManager::sliderStepped);
+    connect(stack(), &QUndoStack::indexChanged, this, [this] { dropMisplaced(); });
+    SliderTarget &values = *this;
+    m_cells.emplace(*m_table, values, stack());
+    connect(&*m_cells, &CellEditors::made, this, &TableManager::cellOpened);
+    connect(&typing(), &TypedNumbers::cellDropped, this, [this] { m_cells->drop(); });
+    connect(&typing(), &TypedNumbers::entered, this, &TableManager::enterGrid);
+    connect(&*m_cells, &CellEditors::changed, this, &TableManager::supplyText); // a closed cell's is freshened
     m_clipboard.emplace(*widget, *m_table);
-    m_table->horizontalHeader()->setHidden(m_table->columnCount() == 1); // it would say "1"
-    m_table->installEventFilter(this);
-    auto *const popup = dynamic_cast<HbTablePopupWidget *>(editor);
-    if (!popup) {
+    if (!dynamic_cast<HbTablePopupWidget *>(widget))
         m_supply.emplace(*widget, *m_table);
-    } else {
-        m_keyboard = popup; // its table is disabled
-        popup->installEventFilter(this);
-        new MatrixRows(*popup, *m_table, *this);
-    }
+    m_controls = new TableControls(*widget, *m_table, *this);
+    connect(m_controls, &TableControls::deleteWanted, this, &TableManager::removeRows);
+    connect(m_controls, &TableControls::copyWanted, this, [this] { m_clipboard->copy(); });
+    connect(m_controls, &TableControls::pasteWanted, this, &TableManager::paste);
 }
 
 void TableManager::setField(SoField *field)
 {
     EditManager::setField(field);
-    m_rowBefore.row = -1;
-    m_rowSeries = FieldCommand::newSeries();
+    if (m_cells)
+        m_cells->beginSeries();
+    if (field && m_table && EditorTable::isStandard(*editor()))
+        m_form = m_table->columnCount() > 1 ? NumberForm::of(*field).component() : NumberForm::of(*field);
 }
 
 void TableManager::refresh()
 {
     dropMisplaced();
-    EditManager::refresh();
+    {
+        const QSignalBlocker quiet(m_controls ? &m_controls->rowBox().box() : nullptr); // bounding it is no entry
+        EditManager::refresh();
+    }
     if (!m_table)
         return;
     showSomeRows();
     if (m_table->currentRow() < 0 && m_table->rowCount() > 0)
-        m_table->setCurrentCell(0, 0);
-    if (!m_cells || !m_cells->isDragging())
-        remember();
+        m_table->setCurrentCell(0, 0, QItemSelectionModel::NoUpdate);
     supplyText();
+    if (m_cells)
+        m_cells->refresh();
+    if (m_controls)
+        m_controls->rowBox().show();
 }
 
 /// As high as its rows, up to some.
@@ -86,6 +104,7 @@ void TableManager::showSomeRows()
 
 void TableManager::finish()
 {
+    typing().settle();
     if (m_cells)
         m_cells->finish();
     else if (m_table)
@@ -95,8 +114,7 @@ void TableManager::finish()
 /// Once values came or went, an open editor may be over another value than it was opened for. Whether that is so.
 bool TableManager::dropMisplaced()
 {
-    const int count = rows() ? rows()->getNum() : 0;
-    if (std::exchange(m_count, count) == count)
+    if (!rows() || std::exchange(m_count, rows()->getNum()) == rows()->getNum())
         return false;
     if (m_cells && !m_cells->drop())
         Q_EMIT message(
@@ -109,19 +127,16 @@ SoMField *TableManager::rows() const
     return static_cast<SoMField *>(field());
 }
 
-/// Where the field cannot be edited: says why, and takes back what a slider wrote on the way.
-bool TableManager::mayEdit(const RowsChange *restored)
+void TableManager::letGo()
 {
-    if (!isListening())
-        return false;
-    const QString obstacle = FieldText::obstacle(*rows());
-    if (obstacle.isEmpty())
-        return true;
-    if (restored)
-        FieldRows::replace(*rows(), restored->row, 1, *restored->before);
-    refresh();
-    Q_EMIT message(obstacle);
-    return false;
+    EditManager::letGo();
+    if (m_cells)
+        m_cells->letGo();
+}
+
+bool TableManager::mayEdit()
+{
+    return isCommanded() && !refuse();
 }
 
 void TableManager::record(std::vector<RowsChange> changes, bool wasDefault, int series)
@@ -132,53 +147,80 @@ void TableManager::record(std::vector<RowsChange> changes, bool wasDefault, int 
 void TableManager::editRow(int row, std::shared_ptr<SoMField> before, bool wasDefault,
                            const std::function<void()> &write)
 {
-    const RowsChange change{row, before, {}};
-    if (!mayEdit(&change) || row < 0 || row >= rows()->getNum())
+    if (!mayEdit() || row < 0 || row >= rows()->getNum())
         return;
     const OwnEdit own;
+    const KeptImages kept(*rows());
     const WriteWatch watch(*rows());
     write();
     const bool isAccepted = watch.isWritten();
     const auto after = FieldRows::copy(*rows(), row, 1);
     const bool isSame = FieldRows::areSame(*before, *after);
     if (!isSame && isAccepted)
-        record({{row, before, after}}, wasDefault, FieldCommand::noSeries);
+        record({{row, before, after}}, wasDefault, editSeries());
     else if (!isSame) // stored in part
         FieldRows::replace(*rows(), row, 1, *before);
     if (isSame || !isAccepted)
         rows()->setDefault(wasDefault);
-    m_rowSeries = FieldCommand::newSeries();
+    if (m_cells)
+        m_cells->beginSeries();
     refresh();
-    remember();
     if (!isAccepted)
         tellRefused();
 }
 
+/// Whether a text is that of its cell, or of the cell's slider, which may tell less than the value.
+bool TableManager::isShown(int row, const QString &shown, const QString &text) const
+{
+    if (shown.isNull())
+        return false;
+    const std::optional<double> number = SliderRanges::numberIn(*rows(), row);
+    return text == shown || (number && text == SliderPlaces::textOf(*number));
+}
+
 void TableManager::mfieldSet1Value(int row, int col, QString text, SbString *previousData)
 {
-    const std::unique_ptr<SbString> dragged(previousData); // its text is rounded; ours is the exact value
-    if (!isListening())
+    delete previousData; // its text is rounded
+    const bool isGrid = col < 0 && typing().hasGrid();
+    if (!isCommanded() || (isGrid && !m_isEntering)) // which the library reports with every keystroke
         return;
-    if (dropMisplaced()) {
+    const auto *const widget = dynamic_cast<const HbMFieldWidget *>(editor());
+    const QString shown = widget && col >= 0 ? widget->getFieldValue(row, col) : QString();
+    if (dropMisplaced() || isShown(row, shown, text)) {
         refresh();
         return;
     }
-    const bool isRemembered = dragged && m_rowBefore.row == row;
-    editRow(row, isRemembered ? m_rowBefore.before : FieldRows::copy(*rows(), row, 1),
-            isRemembered ? m_wasDefault : bool(rows()->isDefault()), [&] { editor()->set1Value(row, col, text); });
+    if (!isGrid && !readTyped(text))
+        return;
+    const auto before = FieldRows::copy(*rows(), row, 1);
+    editRow(row, before, rows()->isDefault(), [&] {
+        editor()->set1Value(row, col, text);
+        if (m_form.kind != NumberForm::Kind::None)
+            ExactNumbers::mend(*rows(), row, *before, shown, text);
+    });
 }
 
 void TableManager::mfieldSetValue(int row, const void *data)
 {
-    if (isListening())
-        editRow(row, FieldRows::copy(*rows(), row, 1), rows()->isDefault(), [&] { editor()->setValue(row, data); });
+    if (!isCommanded())
+        return;
+    std::array<float, 3> chosen{};
+    if (auto *const colors = dynamic_cast<SoMFColor *>(rows()); colors && row >= 0 && row < colors->getNum()) {
+        std::copy_n(static_cast<const float *>(data), chosen.size(), chosen.begin());
+        for (std::size_t i = 0; i < chosen.size(); ++i)
+            if (const float before = (*colors)[row][static_cast<int>(i)]; isSameLevel(chosen[i], before))
+                chosen[i] = before;
+        data = chosen.data();
+    }
+    editRow(row, FieldRows::copy(*rows(), row, 1), rows()->isDefault(), [&] { editor()->setValue(row, data); });
 }
 
 void TableManager::replace(int row, int count, std::shared_ptr<SoMField> values)
 {
-    if (!mayEdit(nullptr))
+    if (!mayEdit())
         return;
     const OwnEdit own;
+    const KeptImages kept(*rows());
     const bool wasDefault = rows()->isDefault();
     const auto before = FieldRows::copy(*rows(), row, count);
     FieldRows::replace(*rows(), row, before->getNum(), *values);
@@ -194,16 +236,41 @@ void TableManager::mfieldAddRows(int row, int numRows)
 
 void TableManager::mfieldDeleteRows(int topRow, int numValues)
 {
-    if (isListening() && topRow >= 0 && topRow < rows()->getNum() && numValues > 0)
-        replace(topRow, numValues, FieldRows::zeros(*rows(), 0));
+    if (numValues > 0)
+        removeRows({{topRow, topRow + numValues - 1}});
+}
+
+/// One step, whatever the number of ranges, which come from above.
+void TableManager::removeRows(const std::vector<CellSelection::Rows> &ranges)
+{
+    const int count = isListening() ? rows()->getNum() : 0;
+    if (ranges.empty() || ranges.front().top < 0 || ranges.front().top >= count || !mayEdit())
+        return;
+    const OwnEdit own;
+    const KeptImages kept(*rows());
+    const bool wasDefault = rows()->isDefault();
+    std::vector<RowsChange> changes;
+    {
+        const OneNotification once(*rows());
+        for (auto range = ranges.rbegin(); range != ranges.rend(); ++range) {
+            const auto before = FieldRows::copy(*rows(), range->top, range->count());
+            if (range->top >= count)
+                continue;
+            changes.push_back({range->top, before, FieldRows::zeros(*rows(), 0)});
+            FieldRows::replace(*rows(), range->top, before->getNum(), *changes.back().after);
+        }
+    }
+    record(std::move(changes), wasDefault, FieldCommand::noSeries);
+    refresh();
 }
 
 void TableManager::mfieldSwapRows(int first, int second)
 {
     const auto isRow = [this](int row) { return row >= 0 && row < rows()->getNum(); };
-    if (!isListening() || !isRow(first) || !isRow(second) || first == second || !mayEdit(nullptr))
+    if (!isListening() || !isRow(first) || !isRow(second) || first == second || !mayEdit())
         return;
     const OwnEdit own;
+    const KeptImages kept(*rows());
     const bool wasDefault = rows()->isDefault();
     const auto firstValue = FieldRows::copy(*rows(), first, 1);
     const auto secondValue = FieldRows::copy(*rows(), second, 1);
@@ -218,62 +285,72 @@ void TableManager::mfieldSwapRows(int first, int second)
 
 void TableManager::mfieldSwapColumns(int first, int second)
 {
-    if (first == second || !mayEdit(nullptr))
+    if (first == second || !mayEdit())
         return;
     const OwnEdit own;
+    const KeptImages kept(*rows());
     const bool wasDefault = rows()->isDefault();
     if (FieldRows::swapColumns(*rows(), first, second))
         stack()->push(new SwapColumnsCommand(*rows(), first, second, wasDefault));
     refresh();
 }
 
-void TableManager::remember()
+int TableManager::rowOf(const HbSlider &slider) const
 {
-    m_rowBefore.row = m_table ? m_table->currentRow() : -1;
-    if (!rows())
-        return;
-    m_rowBefore.before = FieldRows::copy(*rows(), m_rowBefore.row, 1);
-    m_dragged = m_rowBefore.before;
+    return m_table->indexAt(slider.geometry().center()).row();
+}
+
+std::optional<double> TableManager::slidNumber(const HbSlider &slider) const
+{
+    return rows() ? SliderRanges::numberIn(*rows(), rowOf(slider)) : std::nullopt;
+}
+
+bool TableManager::beginSlide(const HbSlider &slider)
+{
+    if (!isListening() || refuse())
+        return false;
+    const int row = rowOf(slider);
+    if (row < 0 || row >= rows()->getNum())
+        return false;
+    m_slid.row = row;
+    m_slid.before = m_slid.after = FieldRows::copy(*rows(), row, 1);
     m_wasDefault = rows()->isDefault();
+    return true;
 }
 
-void TableManager::noteDrag()
+void TableManager::slide(const HbSlider &slider)
 {
-    if (rows())
-        m_dragged = FieldRows::copy(*rows(), m_rowBefore.row, 1);
+    editor()->set1Value(m_slid.row, 0, slider.getText());
+    m_slid.after = FieldRows::copy(*rows(), m_slid.row, 1);
 }
 
-/// What is undone in the middle of a drag makes the drag start from there.
-void TableManager::stackMoved()
+bool TableManager::isAsSlid() const
 {
-    if (!rows())
+    return !rows() || FieldRows::areSame(*m_slid.after, *FieldRows::copy(*rows(), m_slid.row, 1));
+}
+
+void TableManager::putBack(HbSlider &slider)
+{
+    if (!isAsSlid() || !FieldRows::areSame(*m_slid.after, *m_slid.before))
+        FieldRows::replace(*rows(), m_slid.row, 1, *m_slid.before);
+    m_slid.after = m_slid.before;
+    rows()->setDefault(m_wasDefault);
+    const QString text = static_cast<HbMFieldWidget *>(editor())->getFieldValue(m_slid.row, 0);
+    if (auto *const real = dynamic_cast<HbRealSlider *>(&slider))
+        real->setRealValue(text.toFloat());
+    else
+        slider.setValue(text);
+}
+
+void TableManager::endSlide(int series)
+{
+    if (!rows() || !stack() || m_slid.row >= rows()->getNum())
         return;
-    dropMisplaced();
-    if (!m_cells->isDragging() || !FieldRows::areSame(*m_dragged, *FieldRows::copy(*rows(), m_rowBefore.row, 1)))
-        remember();
-}
-
-/// Also freshens the text of a cell whose editor was closed.
-void TableManager::cellEditorsChanged()
-{
-    remember();
-    supplyText();
-}
-
-/// The editor has written the step without a command, or shows it only.
-void TableManager::sliderStepped(const QString &unwritten)
-{
-    const int row = m_rowBefore.row;
-    if (!isListening() || row < 0 || row >= rows()->getNum())
-        return;
-    const OwnEdit own;
-    if (!unwritten.isEmpty() && mayEdit(nullptr))
-        editor()->set1Value(row, 0, unwritten);
-    const auto now = FieldRows::copy(*rows(), row, 1);
-    if (FieldRows::areSame(*m_rowBefore.before, *now) || !mayEdit(&m_rowBefore))
-        return;
-    record({{row, m_rowBefore.before, now}}, m_wasDefault, m_rowSeries);
-    remember();
+    m_slid.after = FieldRows::copy(*rows(), m_slid.row, 1);
+    if (!FieldRows::areSame(*m_slid.before, *m_slid.after))
+        record({m_slid}, m_wasDefault, series);
+    else
+        rows()->setDefault(m_wasDefault);
 }
 
 void TableManager::supplyText()
@@ -282,33 +359,48 @@ void TableManager::supplyText()
         m_supply->supply();
 }
 
+void TableManager::cellOpened(QWidget *cellEditor)
+{
+    typing().adoptCell(*cellEditor, m_form);
+}
+
+/// Makes plain numbers of the text. False, and says why, where it cannot be read.
+bool TableManager::readTyped(QString &text)
+{
+    if (m_form.kind == NumberForm::Kind::None)
+        return true;
+    const NumberForm::Reading reading = m_form.read(text);
+    text = reading.text;
+    if (!reading.isReadable()) {
+        refresh();
+        Q_EMIT message(QStringLiteral("%1: %2").arg(FieldText::qualifiedName(*rows()), reading.error));
+    }
+    return reading.isReadable();
+}
+
+void TableManager::enterGrid()
+{
+    if (!typing().settle())
+        return;
+    constexpr int wholeValue = -1;
+    const QScopedValueRollback<bool> entering(m_isEntering, true);
+    mfieldSet1Value(m_table->currentRow(), wholeValue, QString(), nullptr);
+    typing().setCommitted();
+}
+
 void TableManager::paste()
 {
-    if (!mayEdit(nullptr))
+    if (!mayEdit())
         return;
     const OwnEdit own;
+    const KeptImages kept(*rows());
     const bool wasDefault = rows()->isDefault();
-    const CellClipboard::Pasted pasted = m_clipboard->paste();
+    const CellClipboard::Pasted pasted = m_clipboard->paste(m_form);
     if (pasted.isChange)
         record({pasted.change}, wasDefault, FieldCommand::noSeries);
     refresh();
     if (!pasted.isAllAccepted)
-        Q_EMIT message(tr("%1 does not accept all that was pasted.").arg(FieldText::qualifiedName(*rows())));
-}
-
-bool TableManager::eventFilter(QObject *watched, QEvent *event)
-{
-    if (watched != m_table && watched != m_keyboard)
-        return EditManager::eventFilter(watched, event);
-    const bool isKey = event->type() == QEvent::KeyPress || event->type() == QEvent::ShortcutOverride;
-    if (!isKey)
-        return false;
-    auto *const key = static_cast<QKeyEvent *>(event);
-    const bool isCopy = CellClipboard::isCopy(*key);
-    if (!isCopy && !CellClipboard::isPaste(*key))
-        return false;
-    key->accept();
-    if (event->type() == QEvent::KeyPress)
-        isCopy ? m_clipboard->copy() : paste();
-    return true;
+        Q_EMIT message(tr("%1 does not accept all that was pasted. %2")
+                           .arg(FieldText::qualifiedName(*rows()), pasted.refusal)
+                           .trimmed());
 }

@@ -13,6 +13,7 @@
 #include <optional>
 
 class HbMFieldTable;
+class TableControls;
 class SoMField;
 
 /**
@@ -26,11 +27,13 @@ class TableManager : public EditManager
 
 public:
     using EditManager::EditManager;
+    ~TableManager() override;
 
     void setEditor(HbFieldEditors *editor) override;
     void setField(SoField *field) override;
     void refresh() override;
     void finish() override;
+    void letGo() override;
 
     void mfieldSwapRows(int first, int second) override;
     void mfieldSwapColumns(int first, int second) override;
@@ -39,36 +42,43 @@ public:
     void mfieldSet1Value(int row, int col, QString text, SbString *previousData) override;
     void mfieldSetValue(int row, const void *data) override;
 
-    bool eventFilter(QObject *watched, QEvent *event) override;
+protected:
+    std::optional<double> slidNumber(const HbSlider &slider) const override;
+    bool beginSlide(const HbSlider &slider) override;
+    void slide(const HbSlider &slider) override;
+    bool isAsSlid() const override;
+    void putBack(HbSlider &slider) override;
+    void endSlide(int series) override;
 
 private:
     SoMField *rows() const;
-    bool mayEdit(const RowsChange *restored);
+    bool mayEdit();
+    int rowOf(const HbSlider &slider) const;
+    bool isShown(int row, const QString &shown, const QString &text) const;
     void editRow(int row, std::shared_ptr<SoMField> before, bool wasDefault, const std::function<void()> &write);
     void record(std::vector<RowsChange> changes, bool wasDefault, int series);
     void replace(int row, int count, std::shared_ptr<SoMField> values);
 
+    void removeRows(const std::vector<CellSelection::Rows> &ranges);
     void showSomeRows();
     bool dropMisplaced();
-    void remember();
-    void noteDrag();
-    void cellEditorsChanged();
-    void sliderStepped(const QString &unwritten);
-    void stackMoved();
     void supplyText();
 
+    void cellOpened(QWidget *cellEditor);
+    bool readTyped(QString &text);
+    void enterGrid();
     void paste();
 
     HbMFieldTable *m_table = nullptr; ///< null in an editor without one
-    QObject *m_keyboard = nullptr; ///< what has the focus in the table's place
     std::optional<CellEditors> m_cells;
     std::optional<CellClipboard> m_clipboard;
     std::optional<CellSupply> m_supply;
+    QPointer<TableControls> m_controls;
     int m_count = 0; ///< of the values, when they were last shown
-    RowsChange m_rowBefore{-1, {}, {}}; ///< the current row before a slider in it moves
-    std::shared_ptr<SoMField> m_dragged; ///< what a held slider left there
-    bool m_wasDefault = false; ///< then
-    int m_rowSeries = 0;
+    RowsChange m_slid{-1, {}, {}}; ///< the row before a slider in it moved, and what that left there
+    bool m_wasDefault = false; ///< before
+    NumberForm m_form; ///< of what is typed in a cell
+    bool m_isEntering = false; ///< what was typed in a grid
 };
 
 #endif

@@ -14,6 +14,7 @@ TitledArea::TitledArea(QWidget *parent) : QWidget(parent), m_title(new QLabel(th
     m_title->setFont(font);
     m_title->setContentsMargins(6, 6, 6, 2);
     m_title->setTextFormat(Qt::PlainText);
+    m_title->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred); // a long name takes no room from the view
     m_area->setWidgetResizable(true);
     m_area->setFrameShape(QFrame::NoFrame);
     m_area->setFocusPolicy(Qt::NoFocus);

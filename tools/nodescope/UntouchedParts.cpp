@@ -3,107 +3,20 @@
 
 #include "UntouchedParts.h"
 
+#include "NumberParts.h"
+
 #include <HbFieldEditors.h>
+#include <HbSFColorWidget.h>
 
 #include <QLineEdit>
 
-#include <Inventor/SbMatrix.h>
-#include <Inventor/SbPlane.h>
-#include <Inventor/fields/SoFields.h>
+#include <Inventor/fields/SoField.h>
 
-#include <algorithm>
-#include <vector>
+#include <cmath>
+#include <cstring>
 
 namespace
 {
-using Numbers = std::vector<float>;
-
-/// How a value is made of the numbers that its editor shows, in that order.
-struct Parts {
-    SoType (*type)();
-    Numbers (*split)(const SoField &field);
-    void (*join)(SoField &field, const Numbers &numbers);
-};
-
-template <class Field, int count> Parts vectorParts()
-{
-    return {&Field::getClassTypeId,
-            [](const SoField &field) {
-                const auto value = static_cast<const Field &>(field).getValue();
-                return Numbers(value.getValue(), value.getValue() + count);
-            },
-            [](SoField &field, const Numbers &numbers) { static_cast<Field &>(field).setValue(numbers.data()); }};
-}
-
-Numbers splitFloat(const SoField &field)
-{
-    return {static_cast<const SoSFFloat &>(field).getValue()};
-}
-
-void joinFloat(SoField &field, const Numbers &numbers)
-{
-    static_cast<SoSFFloat &>(field).setValue(numbers.front());
-}
-
-Numbers splitMatrix(const SoField &field)
-{
-    const SbMatrix value = static_cast<const SoSFMatrix &>(field).getValue();
-    return Numbers(value[0], value[0] + 16);
-}
-
-void joinMatrix(SoField &field, const Numbers &numbers)
-{
-    SbMatrix value;
-    std::copy(numbers.begin(), numbers.end(), value[0]);
-    static_cast<SoSFMatrix &>(field).setValue(value);
-}
-
-Numbers splitRotation(const SoField &field)
-{
-    SbVec3f axis;
-    float radians = 0;
-    static_cast<const SoSFRotation &>(field).getValue(axis, radians);
-    return {axis[0], axis[1], axis[2], radians};
-}
-
-void joinRotation(SoField &field, const Numbers &numbers)
-{
-    static_cast<SoSFRotation &>(field).setValue(SbVec3f(numbers.data()), numbers[3]);
-}
-
-Numbers splitPlane(const SoField &field)
-{
-    const SbPlane plane = static_cast<const SoSFPlane &>(field).getValue();
-    const SbVec3f &normal = plane.getNormal();
-    return {normal[0], normal[1], normal[2], plane.getDistanceFromOrigin()};
-}
-
-void joinPlane(SoField &field, const Numbers &numbers)
-{
-    static_cast<SoSFPlane &>(field).setValue(SbPlane(SbVec3f(numbers.data()), numbers[3]));
-}
-
-const Parts *partsOf(const SoField &field)
-{
-    static const Parts all[] = {
-        {SoSFFloat::getClassTypeId, splitFloat, joinFloat},
-        {SoSFMatrix::getClassTypeId, splitMatrix, joinMatrix},
-        {SoSFRotation::getClassTypeId, splitRotation, joinRotation},
-        {SoSFPlane::getClassTypeId, splitPlane, joinPlane},
-        vectorParts<SoSFVec2f, 2>(),
-        vectorParts<SoSFVec3f, 3>(),
-        vectorParts<SoSFVec4f, 4>(),
-        vectorParts<SoSFColor, 3>(),
-    };
-    const auto *const found = std::find_if(std::begin(all), std::end(all),
-                                           [&](const Parts &parts) { return parts.type() == field.getTypeId(); });
-    return found == std::end(all) ? nullptr : found;
-}
-
-QString shown(float number)
-{
-    return QString::number(static_cast<double>(number), 'g', 6);
-}
 /// As the editors read it.
 float typed(const QString &text)
 {
@@ -111,29 +24,48 @@ float typed(const QString &text)
     const float number = text.toFloat(&converted);
     return converted ? number : 0;
 }
+
+/// An editor that has refreshed itself shows 6 digits.
+bool isUntouched(const QLineEdit &edit, float number)
+{
+    const QString text = edit.text();
+    return text == NumberParts::shortest(number)
+        || (!edit.isModified() && text == QString::number(static_cast<double>(number), 'g', 6));
+}
+
 } // namespace
+
+bool isSameLevel(float chosen, float before)
+{
+    constexpr float whole = 255;
+    return std::round(chosen * whole) == std::trunc(before * whole);
+}
+
+NumberParts::Numbers numbersIn(const HbFieldEditors &editor, NumberParts::Numbers before)
+{
+    const QList<QLineEdit *> edits = NumberParts::editsIn(editor);
+    if (edits.size() != static_cast<int>(before.size()))
+        return {};
+    const bool isColor = dynamic_cast<const HbSFColorWidget *>(&editor);
+    for (std::size_t i = 0; i < before.size(); ++i) {
+        const QLineEdit &edit = *edits[static_cast<int>(i)];
+        const float number = typed(edit.text());
+        const bool isKept = isColor && !edit.isModified() && isSameLevel(number, before[i]);
+        if (!isKept && !isUntouched(edit, before[i]))
+            before[i] = number;
+    }
+    return before;
+}
 
 void keepUntouchedParts(const HbFieldEditors &editor, const SoField &before, SoField &edited)
 {
-    const Parts *const parts = partsOf(before);
-    if (!parts)
+    const NumberParts::Numbers shown = NumberParts::of(before);
+    const NumberParts::Numbers numbers = numbersIn(editor, shown);
+    if (numbers.empty())
         return;
-    QList<QLineEdit *> edits = editor.findChildren<QLineEdit *>(); // in the order of their making, left to right
-    edits.erase(std::remove_if(edits.begin(), edits.end(), [](const QLineEdit *edit) { return !edit->isEnabled(); }),
-                edits.end()); // not the line that shows a whole matrix
-    Numbers numbers = parts->split(before);
-    if (edits.size() != static_cast<int>(numbers.size()))
-        return;
-    std::size_t untouched = 0;
-    for (std::size_t i = 0; i < numbers.size(); ++i) {
-        const QString text = edits[static_cast<int>(i)]->text();
-        if (text == shown(numbers[i]))
-            ++untouched;
-        else
-            numbers[i] = typed(text);
-    }
-    if (untouched == numbers.size())
+    const bool isUntouched = std::memcmp(numbers.data(), shown.data(), shown.size() * sizeof(float)) == 0;
+    if (isUntouched)
         edited.copyFrom(before);
-    else if (untouched > 0)
-        parts->join(edited, numbers);
+    else
+        NumberParts::set(edited, numbers);
 }

@@ -9,6 +9,7 @@
 #include <Inventor/SbRotation.h>
 #include <Inventor/SbViewportRegion.h>
 #include <Inventor/SbXfBox3f.h>
+#include <Inventor/SoFullPath.h>
 #include <Inventor/actions/SoGetBoundingBoxAction.h>
 #include <Inventor/actions/SoGetMatrixAction.h>
 #include <Inventor/actions/SoSearchAction.h>
@@ -46,6 +47,7 @@ std::shared_ptr<SoCamera> copyInWorldSpace(const SoCamera &camera, SoPath *path,
 {
     auto copy = coinRef(static_cast<SoCamera *>(camera.getTypeId().createInstance()));
     copy->copyFieldValues(&camera);
+    copy->viewportMapping = SoCamera::ADJUST_CAMERA; // the others leave a part of the view empty
     SoGetMatrixAction action(viewport);
     action.apply(path);
     SbVec3f position;
@@ -95,35 +97,59 @@ void ViewCamera::viewAll(SoNode *root, const SbViewportRegion &viewport)
 {
     SoGetBoundingBoxAction action(viewport);
     action.apply(root);
-    const SbBox3f box = action.getBoundingBox();
-    if (box.isEmpty())
-        return;
-    m_camera->viewAll(root, viewport); // around a sphere, which leaves a lot of room around flat scenes
-    if (m_camera->isOfType(SoPerspectiveCamera::getClassTypeId()))
-        fit(box, viewport.getViewportAspectRatio());
+    fit(action.getBoundingBox(), viewport);
+}
+
+void ViewCamera::frame(const SoPath &path, const SbViewportRegion &viewport)
+{
+    const std::shared_ptr<SoFullPath> place = coinRef(static_cast<SoFullPath *>(path.copy()));
+    SoGetBoundingBoxAction action(viewport);
+    action.apply(place.get());
+    while (action.getBoundingBox().isEmpty() && place->getLength() > 1) {
+        place->truncate(place->getLength() - 1);
+        action.apply(place.get());
+    }
+    fit(action.getBoundingBox(), viewport);
 }
 
 /// Goes as near as the corners of the box allow.
-void ViewCamera::fit(const SbBox3f &box, float aspect)
+void ViewCamera::fit(const SbBox3f &box, const SbViewportRegion &viewport)
 {
     constexpr float margin = 1.05F;
-    const float angle = static_cast<SoPerspectiveCamera *>(m_camera.get())->heightAngle.getValue();
-    const float upwards = std::tan(angle / 2) / std::min(aspect, 1.0F); // Coin's angle is that of the shorter side
+    if (box.isEmpty())
+        return;
+    const float aspect = viewport.getViewportAspectRatio();
+    const bool flat = m_camera->isOfType(SoOrthographicCamera::getClassTypeId());
+    // How far one sees to the side and upwards, at a distance of 1; Coin's angle is that of the shorter side.
+    const float upwards = (flat ? 1.0F : std::tan(heightAngle() / 2)) / std::min(aspect, 1.0F);
     const float sideways = upwards * aspect;
-    const SbVec3f centre = box.getCenter();
     float distance = 0;
+    float height = 0;
     for (int corner = 0; corner < 8; ++corner) {
         const SbVec3f &low = box.getMin();
         const SbVec3f &high = box.getMax();
         const SbVec3f place(corner & 1 ? high[0] : low[0], corner & 2 ? high[1] : low[1],
                             corner & 4 ? high[2] : low[2]);
         SbVec3f seen; // from the centre, in the camera's axes
-        m_camera->orientation.getValue().inverse().multVec(place - centre, seen);
-        const float room = std::max(std::abs(seen[0]) / sideways, std::abs(seen[1]) / upwards);
-        distance = std::max(distance, seen[2] + room * margin);
+        m_camera->orientation.getValue().inverse().multVec(place - box.getCenter(), seen);
+        const float room = std::max(std::abs(seen[0]) / sideways, std::abs(seen[1]) / upwards) * margin;
+        distance = std::max(distance, seen[2] + room);
+        height = std::max(height, 2 * room);
     }
+    if (distance <= 0) // a single point: there is no size to fit
+        distance = m_camera->focalDistance.getValue();
+    else if (flat)
+        static_cast<SoOrthographicCamera *>(m_camera.get())->height = height;
     m_camera->focalDistance = distance;
-    m_camera->position = centre - direction() * distance;
+    m_camera->position = box.getCenter() - direction() * distance;
+}
+
+/// Cameras of other kinds than the perspective one see as it does, as far as it matters here.
+float ViewCamera::heightAngle() const
+{
+    return m_camera->isOfType(SoPerspectiveCamera::getClassTypeId())
+        ? static_cast<SoPerspectiveCamera *>(m_camera.get())->heightAngle.getValue()
+        : pi / 4;
 }
 
 void ViewCamera::clip(SoNode *root, const SbViewportRegion &viewport)
@@ -174,23 +200,22 @@ void ViewCamera::orbit(float right, float up)
 
 void ViewCamera::pan(float right, float up)
 {
-    float size = 2 * m_camera->focalDistance.getValue();
-    if (m_camera->isOfType(SoPerspectiveCamera::getClassTypeId()))
-        size *= std::tan(static_cast<SoPerspectiveCamera *>(m_camera.get())->heightAngle.getValue() / 2);
-    else if (m_camera->isOfType(SoOrthographicCamera::getClassTypeId()))
-        size = static_cast<SoOrthographicCamera *>(m_camera.get())->height.getValue();
+    const float size = m_camera->isOfType(SoOrthographicCamera::getClassTypeId())
+        ? static_cast<SoOrthographicCamera *>(m_camera.get())->height.getValue()
+        : 2 * m_camera->focalDistance.getValue() * std::tan(heightAngle() / 2);
     const SbVec3f way = turned(*m_camera, cameraRight) * right + turned(*m_camera, cameraUp) * up;
     m_camera->position = m_camera->position.getValue() - way * size;
 }
 
-void ViewCamera::zoom(float factor)
+void ViewCamera::zoom(float factor, const SbVec3f &fixed)
 {
+    SbVec3f way = (fixed - m_camera->position.getValue()) * (1 - 1 / factor);
     if (m_camera->isOfType(SoOrthographicCamera::getClassTypeId())) {
         auto &height = static_cast<SoOrthographicCamera *>(m_camera.get())->height;
         height = height.getValue() / factor;
-        return;
+        way -= direction() * way.dot(direction()); // nearer would make nothing larger
+    } else {
+        m_camera->focalDistance = m_camera->focalDistance.getValue() / factor;
     }
-    const SbVec3f centre = focus();
-    m_camera->focalDistance = m_camera->focalDistance.getValue() / factor;
-    m_camera->position = centre - direction() * m_camera->focalDistance.getValue();
+    m_camera->position = m_camera->position.getValue() + way;
 }

@@ -12,6 +12,7 @@ class SbBox3f;
 class SbViewportRegion;
 class SoCamera;
 class SoNode;
+class SoPath;
 
 /**
  * The camera that the view looks through. It is never part of the scene: where the scene has a camera of
@@ -30,6 +31,8 @@ public:
     void goHome(SoNode *root, const SbViewportRegion &viewport);
     /// Keeps the direction and moves until everything below @p root is in sight.
     void viewAll(SoNode *root, const SbViewportRegion &viewport);
+    /// The same for what is below the end of @p path; for its next ancestor that has any shape, where that has none.
+    void frame(const SoPath &path, const SbViewportRegion &viewport);
 
     /// Puts the near and the far plane around everything below @p root; before each frame.
     void clip(SoNode *root, const SbViewportRegion &viewport);
@@ -38,13 +41,17 @@ public:
     void orbit(float right, float up);
     /// Moves the picture by fractions of its shorter side.
     void pan(float right, float up);
-    /// Makes everything larger by @p factor.
-    void zoom(float factor);
+    /// Makes everything larger by @p factor; what is at @p fixed stays where it is in the picture.
+    void zoom(float factor, const SbVec3f &fixed);
+
+    /// The point that the camera turns around.
+    SbVec3f focus() const;
+    /// Where it looks to.
+    SbVec3f direction() const;
 
 private:
-    void fit(const SbBox3f &box, float aspect);
-    SbVec3f focus() const;
-    SbVec3f direction() const;
+    float heightAngle() const;
+    void fit(const SbBox3f &box, const SbViewportRegion &viewport);
 
     std::shared_ptr<SoCamera> m_camera;
     std::shared_ptr<SoCamera> m_original;

@@ -3,8 +3,6 @@
 
 #include "ViewRenderAction.h"
 
-#include <Inventor/nodes/SoCamera.h>
-
 SO_ACTION_SOURCE(ViewRenderAction);
 
 void ViewRenderAction::initClass()
@@ -12,7 +10,6 @@ void ViewRenderAction::initClass()
     if (getClassTypeId() != SoType::badType())
         return;
     SO_ACTION_INIT_CLASS(ViewRenderAction, SoGLRenderAction);
-    SO_ACTION_ADD_METHOD(SoCamera, render);
 }
 
 ViewRenderAction::ViewRenderAction(const SbViewportRegion &viewport) : SoGLRenderAction(viewport)
@@ -21,10 +18,3 @@ ViewRenderAction::ViewRenderAction(const SbViewportRegion &viewport) : SoGLRende
 }
 
 ViewRenderAction::~ViewRenderAction() = default;
-
-void ViewRenderAction::render(SoAction *action, SoNode *camera)
-{
-    auto *self = static_cast<ViewRenderAction *>(action);
-    if (camera == self->m_camera)
-        camera->GLRender(self);
-}

@@ -8,7 +8,7 @@
 
 class SoCamera;
 
-/// Draws a scene through one camera and passes over the cameras that stand in the scene itself.
+/// Draws a scene through one camera; passOverSceneCameras() sees to those that stand in the scene itself.
 class ViewRenderAction : public SoGLRenderAction
 {
     SO_ACTION_HEADER(ViewRenderAction);
@@ -19,11 +19,10 @@ public:
     explicit ViewRenderAction(const SbViewportRegion &viewport);
     ~ViewRenderAction() override;
 
+    const SoCamera *camera() const { return m_camera; }
     void setCamera(const SoCamera *camera) { m_camera = camera; }
 
 private:
-    static void render(SoAction *action, SoNode *camera);
-
     const SoCamera *m_camera = nullptr; ///< only compared
 };
 

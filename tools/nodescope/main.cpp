@@ -8,6 +8,7 @@
 #include "FieldPanel.h"
 #include "MainWindow.h"
 #include "Options.h"
+#include "SceneDocument.h"
 #include "SceneView.h"
 
 #include <QApplication>
@@ -79,7 +80,7 @@ template <class Action> void whenPainted(MainWindow &window, Action action)
         delete once;
         action();
     };
-    if (window.view())
+    if (window.view() && window.document()->isOpen())
         QObject::connect(window.view(), &SceneView::painted, once, run, Qt::QueuedConnection);
     else
         QTimer::singleShot(0, once, run);
@@ -125,6 +126,10 @@ int main(int argc, char **argv)
         window.resize(options->size);
     else if (!options->isScripted())
         window.rememberGeometry();
+    if (!options->isScripted()) {
+        window.rememberPlugins();
+        window.rememberFiles();
+    }
     exitCode = openAndSelect(window, *options);
     if (options->isScripted())
         whenPainted(window, [&, exitCode] { runScript(window, *options, exitCode); });

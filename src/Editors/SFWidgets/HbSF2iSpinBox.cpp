@@ -4,6 +4,7 @@
 #include <HbSF2iSpinBox.h>
 
 #include "Components.h"
+#include "support/TranslatedTexts.h"
 #include "support/WheelGuard.h"
 
 #include <QSpinBox>
@@ -27,6 +28,7 @@ HbSF2iSpinBox::~HbSF2iSpinBox() = default;
 
 void HbSF2iSpinBox::initClass()
 {
+    m_texts = new TranslatedTexts(this);
     setEditLayout("SF2BoxHMargin", "SF2BoxHSpacing");
     for (std::size_t i = 0; i < m_spins.size(); ++i)
         buildComponent(m_spins[i], m_labels[i]);
@@ -46,8 +48,11 @@ void HbSF2iSpinBox::buildComponent(QSpinBox *&spin, QLabel *&label)
 
 void HbSF2iSpinBox::setNameLabels(QString *names)
 {
-    for (std::size_t i = 0; i < m_spins.size(); ++i)
-        Components::setLabel(m_labels[i], m_spins[i], tr("<p>") + names[i] + tr("</p>"), names[i]);
+    for (std::size_t i = 0; i < m_spins.size(); ++i) {
+        const auto text = [name = names[i]] { return HbSFieldWidget::tr("<p>") + name + HbSFieldWidget::tr("</p>"); };
+        m_texts->set(m_labels[i], "text", text);
+        m_spins[i]->setAccessibleName(names[i]);
+    }
 }
 
 void HbSF2iSpinBox::setLimits(int mode)

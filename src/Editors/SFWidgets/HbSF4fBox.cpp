@@ -4,6 +4,7 @@
 #include <HbSF4fBox.h>
 
 #include "Components.h"
+#include "support/TranslatedTexts.h"
 
 HbSF4fBox::HbSF4fBox(const char *label, HbFieldEditorCommandManager *manager, QWidget *parent, const char *name,
                      Qt::WindowFlags flags)
@@ -21,6 +22,7 @@ HbSF4fBox::~HbSF4fBox() = default;
 
 void HbSF4fBox::initClass()
 {
+    m_texts = new TranslatedTexts(this);
     setEditLayout("SF4fBoxHMargin", "SF4fBoxHSpacing");
     for (std::size_t i = 0; i < m_edits.size(); ++i)
         buildComponent(m_edits[i], m_labels[i]);
@@ -41,8 +43,11 @@ void HbSF4fBox::buildComponent(QLineEdit *&edit, QLabel *&label)
 
 void HbSF4fBox::setNameLabels(QString *names)
 {
-    for (std::size_t i = 0; i < m_edits.size(); ++i)
-        Components::setLabel(m_labels[i], m_edits[i], tr("<p>") + names[i] + tr("</p>"), names[i]);
+    for (std::size_t i = 0; i < m_edits.size(); ++i) {
+        const auto text = [name = names[i]] { return HbSFieldWidget::tr("<p>") + name + HbSFieldWidget::tr("</p>"); };
+        m_texts->set(m_labels[i], "text", text);
+        m_edits[i]->setAccessibleName(names[i]);
+    }
 }
 
 bool HbSF4fBox::edited()

@@ -6,6 +6,7 @@
 #include "Components.h"
 #include "support/ColorChoice.h"
 #include "support/FieldWatch.h"
+#include "support/TranslatedTexts.h"
 
 #include <QPushButton>
 
@@ -46,19 +47,21 @@ void HbSFColorWidget::initClass()
     m_colorDisp->setFixedWidth(nscsettings_fieldEditor(QStringLiteral("SFColorDispWidth")));
     m_colorDisp->setIconSize(m_colorDisp->minimumSize());
     m_colorDisp->setAutoDefault(false);
-    m_colorDisp->setAccessibleName(tr("Choose a colour"));
-    m_colorDisp->setToolTip(tr("Choose a colour"));
+    auto *const translated = new TranslatedTexts(this);
+    translated->explain(m_colorDisp, [] { return tr("Choose a colour"); });
     displayColor();
     setEditLayout("SFColorMargin", "SFColorSpacing");
     m_editLayout->addWidget(m_colorDisp);
 
-    const QString texts[]
-        = {tr("<p align=\"right\">R</p>"), tr("<p align=\"right\">G</p>"), tr("<p align=\"right\">B</p>")};
-    const QString names[] = {tr("Red"), tr("Green"), tr("Blue")};
-    for (std::size_t i = 0; i < m_edits.size(); ++i) {
+    for (std::size_t i = 0; i < m_edits.size(); ++i)
         buildComponent(m_edits[i], m_labels[i]);
-        Components::setLabel(m_labels[i], m_edits[i], texts[i], names[i]);
-    }
+    translated->call([this] {
+        const QString texts[]
+            = {tr("<p align=\"right\">R</p>"), tr("<p align=\"right\">G</p>"), tr("<p align=\"right\">B</p>")};
+        const QString names[] = {tr("Red"), tr("Green"), tr("Blue")};
+        for (std::size_t i = 0; i < m_edits.size(); ++i)
+            Components::setLabel(m_labels[i], m_edits[i], texts[i], names[i]);
+    });
     connect(m_edits[0], &QLineEdit::textChanged, this, &HbSFColorWidget::changeRValue);
     connect(m_edits[1], &QLineEdit::textChanged, this, &HbSFColorWidget::changeGValue);
     connect(m_edits[2], &QLineEdit::textChanged, this, &HbSFColorWidget::changeBValue);
@@ -118,9 +121,9 @@ void HbSFColorWidget::getColorEditor()
     if (!self || !chosen.isValid())
         return;
     const auto component = [](int level) { return static_cast<float>(level) / static_cast<float>(whole); };
-    // the texts set the working colour, to 6 digits
-    Components::show(m_edits,
-                     std::array{component(chosen.red()), component(chosen.green()), component(chosen.blue())}.data());
+    m_color = {component(chosen.red()), component(chosen.green()), component(chosen.blue())};
+    displayColor();
+    Components::show(m_edits, std::array(m_color).data()); // each text that changes sets its component, to 6 digits
     setCommandValue();
 }
 

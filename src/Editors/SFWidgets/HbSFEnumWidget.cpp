@@ -13,27 +13,6 @@
 #include <Inventor/SbName.h>
 #include <Inventor/fields/SoSFEnum.h>
 
-namespace
-{
-/// The name of the value, as the field writes it: nothing for one without a name.
-QString textOf(SoField *field)
-{
-    const auto *const choice = fieldCast<SoSFEnum>(field);
-    if (!choice || choice->getNumEnums() == 0) {
-        SbString text;
-        if (field)
-            field->get(text);
-        return QString::fromLatin1(text.getString());
-    }
-    for (int i = 0; i < choice->getNumEnums(); ++i) {
-        SbName name;
-        if (choice->getEnum(i, name) == choice->getValue())
-            return QString::fromLatin1(name.getString());
-    }
-    return {};
-}
-} // namespace
-
 HbSFEnumWidget::HbSFEnumWidget(const char *label, HbFieldEditorCommandManager *manager, int count, const SbName *names,
                                QWidget *parent, const char *name, Qt::WindowFlags flags)
     : HbSFieldWidget(label, manager, parent, name ? name : "HbSFEnumWidget", flags),
@@ -58,7 +37,10 @@ HbSFEnumWidget::~HbSFEnumWidget() = default;
 
 void HbSFEnumWidget::refresh()
 {
-    const QString text = textOf(editedField());
+    SbString name;
+    if (SoField *const edited = editedField())
+        edited->get(name);
+    const QString text = QString::fromLatin1(name.getString());
     const int entry = m_comboBox->findText(text, Qt::MatchExactly | Qt::MatchCaseSensitive);
     if (entry >= 0)
         m_comboBox->setCurrentIndex(entry);

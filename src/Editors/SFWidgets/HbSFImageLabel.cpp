@@ -4,7 +4,9 @@
 #include <HbSFImageLabel.h>
 
 #include "support/PopupPlacement.h"
+#include "support/TranslatedTexts.h"
 
+#include <QCoreApplication>
 #include <QMouseEvent>
 #include <QScreen>
 
@@ -26,12 +28,14 @@ protected:
 HbSFImageLabel::HbSFImageLabel(int width, int height, QWidget *parent, const char *name)
     : QLabel(parent), m_popup(new PopupLabel(this, Qt::Popup))
 {
-    setObjectName(QString::fromUtf8(name));
+    setObjectName(name ? QString::fromUtf8(name) : QStringLiteral("HbSFImageLabel"));
     setScaledContents(true);
     setMouseTracking(true);
     setFixedSize(width, height);
     setFocusPolicy(Qt::NoFocus);
-    setAccessibleName(tr("Image"));
+    (new TranslatedTexts(this))->set(this, "accessibleName", [] {
+        return QCoreApplication::translate("HbSFImageLabel", "Image");
+    });
 
     m_popup->setObjectName(QStringLiteral("pixmapLabel"));
     m_popup->setFrameStyle(QFrame::StyledPanel | QFrame::Raised);

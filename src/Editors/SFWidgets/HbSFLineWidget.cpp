@@ -3,6 +3,7 @@
 
 #include <HbSFLineWidget.h>
 
+#include "coin/FieldReader.h"
 #include "support/CoinText.h"
 
 #include <HbFieldEditorCommandManager.h>
@@ -10,53 +11,46 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 
-namespace
-{
-/// Leaves Return to the parent: QLineEdit would take it for the end of the edit.
-class ReturnGuard : public QObject
-{
-public:
-    using QObject::QObject;
-
-    bool eventFilter(QObject *, QEvent *event) override
-    {
-        if (event->type() != QEvent::KeyPress)
-            return false;
-        const int key = static_cast<QKeyEvent *>(event)->key();
-        if (key != Qt::Key_Return && key != Qt::Key_Enter)
-            return false;
-        event->ignore();
-        return true;
-    }
-};
-} // namespace
-
 HbSFLineWidget::HbSFLineWidget(const char *label, HbFieldEditorCommandManager *manager, QWidget *parent,
                                const char *name, Qt::WindowFlags flags)
     : HbSFieldWidget(label, manager, parent, name ? name : "HbSFLineWidget", flags), m_lineEdit(addLineEdit())
 {
     connect(m_lineEdit, &QLineEdit::editingFinished, this, &HbSFLineWidget::setFocusLeaveEvent);
-    commitDirectly(SIGNAL(returnPressed()));
+    commitDirectly(&QLineEdit::returnPressed, SIGNAL(returnPressed()));
 }
 
 HbSFLineWidget::HbSFLineWidget(HbFieldEditorCommandManager *manager, QWidget *parent, const char *name,
                                Qt::WindowFlags flags)
     : HbSFieldWidget(manager, parent, name ? name : "HbSFLineWidget", flags), m_lineEdit(addLineEdit())
 {
-    commitDirectly(SIGNAL(textChanged(const QString &)));
+    commitDirectly(&QLineEdit::textChanged, SIGNAL(textChanged(const QString &)));
 }
 
 HbSFLineWidget::~HbSFLineWidget() = default;
 
-void HbSFLineWidget::commitDirectly(const char *signal)
+template <class Signal> void HbSFLineWidget::commitDirectly(Signal signal, const char *signature)
 {
-    if (m_commandManager) {
-        connect(m_lineEdit, signal, m_commandManager, SLOT(sfieldSetValue()));
-        return;
-    }
-    // There is no such slot, deliberately: without a manager only leaving the line writes, and Qt says so.
-    connect(m_lineEdit, signal, this, SLOT(applyChanges()));
-    m_lineEdit->installEventFilter(new ReturnGuard(m_lineEdit));
+    m_lineEdit->installEventFilter(this);
+    if (m_commandManager)
+        connect(m_lineEdit, signal, this, [this] {
+            if (m_commandManager)
+                commit();
+        });
+    else
+        // There is no such slot, deliberately: without a manager only leaving the line writes, and Qt says so.
+        connect(m_lineEdit, signature, this, SLOT(applyChanges()));
+}
+
+/// Without a manager leaves Return to the parent: QLineEdit would take it for the end of the edit.
+bool HbSFLineWidget::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched != m_lineEdit || event->type() != QEvent::KeyPress || m_commandManager)
+        return HbSFieldWidget::eventFilter(watched, event);
+    const int key = static_cast<QKeyEvent *>(event)->key();
+    if (key != Qt::Key_Return && key != Qt::Key_Enter)
+        return false;
+    event->ignore();
+    return true;
 }
 
 void HbSFLineWidget::refresh()
@@ -71,7 +65,7 @@ void HbSFLineWidget::refresh()
 void HbSFLineWidget::applyChanges()
 {
     if (SoField *const edited = editedField())
-        edited->set(CoinText::toSbString(m_lineEdit->text()).getString());
+        FieldReader::set(*edited, CoinText::toSbString(m_lineEdit->text()).getString());
 }
 
 bool HbSFLineWidget::edited()

@@ -3,6 +3,7 @@
 
 #include <HbSFNameWidget.h>
 
+#include "coin/FieldReader.h"
 #include "support/CoinText.h"
 #include "support/FieldWatch.h"
 
@@ -35,7 +36,7 @@ void HbSFNameWidget::refresh()
 void HbSFNameWidget::applyChanges()
 {
     if (SoField *const edited = editedField())
-        edited->set(CoinText::toSbString(m_lineEdit->text()).getString());
+        FieldReader::set(*edited, CoinText::toSbString(m_lineEdit->text()).getString());
 }
 
 bool HbSFNameWidget::edited()

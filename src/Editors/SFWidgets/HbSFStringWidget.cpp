@@ -3,6 +3,7 @@
 
 #include <HbSFStringWidget.h>
 
+#include "coin/FieldReader.h"
 #include "support/CoinText.h"
 #include "support/FieldWatch.h"
 
@@ -44,7 +45,7 @@ void HbSFStringWidget::applyChanges()
     if (auto *const string = fieldCast<SoSFString>(editedField()))
         string->setValue(text); // not parsed: quotes are part of it
     else if (SoField *const other = editedField())
-        other->set(text.getString());
+        FieldReader::set(*other, text.getString());
 }
 
 bool HbSFStringWidget::edited()

@@ -5,6 +5,7 @@
 
 #include "Components.h"
 #include "support/FieldWatch.h"
+#include "support/TranslatedTexts.h"
 
 #include <Inventor/fields/SoSFVec2f.h>
 
@@ -26,12 +27,14 @@ HbSFVec2fWidget::~HbSFVec2fWidget() = default;
 void HbSFVec2fWidget::initClass()
 {
     setEditLayout("SF2BoxHMargin", "SF2BoxHSpacing");
-    const QString texts[] = {tr("<p>x</p>"), tr("<p>y</p>")};
-    const QString names[] = {QStringLiteral("x"), QStringLiteral("y")};
-    for (std::size_t i = 0; i < m_edits.size(); ++i) {
+    for (std::size_t i = 0; i < m_edits.size(); ++i)
         buildComponent(m_edits[i], m_labels[i]);
-        Components::setLabel(m_labels[i], m_edits[i], texts[i], names[i]);
-    }
+    (new TranslatedTexts(this))->call([this] {
+        const QString texts[] = {HbSFieldWidget::tr("<p>x</p>"), HbSFieldWidget::tr("<p>y</p>")};
+        const QString names[] = {QStringLiteral("x"), QStringLiteral("y")};
+        for (std::size_t i = 0; i < m_edits.size(); ++i)
+            Components::setLabel(m_labels[i], m_edits[i], texts[i], names[i]);
+    });
 }
 
 void HbSFVec2fWidget::buildComponent(QLineEdit *&edit, QLabel *&label)

@@ -1,15 +1,14 @@
 // SPDX-FileCopyrightText: 2026 The HarborAPI authors
 // SPDX-License-Identifier: BSD-3-Clause
 
-#include "AccessButtonPrivate.h"
+#include <AccessButtonPrivate.h>
 
 #include <QKeyEvent>
 #include <QLineEdit>
 
 AccessButtonPrivate::AccessButtonPrivate(QWidget *parent, const char *name) : QSpinBox(parent)
 {
-    if (name)
-        setObjectName(QString::fromUtf8(name));
+    setObjectName(name ? QString::fromUtf8(name) : QStringLiteral("AccessButtonPrivate"));
     lineEdit()->installEventFilter(this);
 }
 

@@ -23,7 +23,7 @@ HbMFColorTable::~HbMFColorTable() = default;
 
 void HbMFColorTable::getColorFromEditor(int row, int col)
 {
-    const auto isRow = [this, row] { return row >= 0 && row < rowCount(); };
+    const auto isRow = [this, row] { return row >= 0 && row < rowCount() && !m_owner->hasLostField(); };
     if (col != 0 || !isRow())
         return;
     const QPointer<HbMFColorTable> self(this);

@@ -5,6 +5,7 @@
 
 #include "MFieldAccess.h"
 #include "VectorTable.h"
+#include "support/TranslatedTexts.h"
 
 #include <Inventor/fields/SoMFColor.h>
 
@@ -30,7 +31,11 @@ HbMFColorWidget::~HbMFColorWidget() = default;
 
 void HbMFColorWidget::initClass()
 {
-    VectorTable::init(*m_table, {tr("Color"), QStringLiteral("R"), QStringLiteral("G"), QStringLiteral("B")});
+    const auto labels = [] {
+        return QStringList{HbMFieldWidget::tr("Color"), QStringLiteral("R"), QStringLiteral("G"), QStringLiteral("B")};
+    };
+    VectorTable::init(*m_table, labels());
+    (new TranslatedTexts(this))->call([this, labels] { m_table->setHorizontalHeaderLabels(labels()); });
 }
 
 bool HbMFColorWidget::checkField(SoField *field)

@@ -6,6 +6,8 @@
 #include "TextColumn.h"
 #include "VectorTable.h"
 
+#include <typeinfo>
+
 HbMFDefaultFieldWidget::HbMFDefaultFieldWidget(const char *fieldType, HbFieldEditorCommandManager *commandManager,
                                                QWidget *parent, const char *name, Qt::WindowFlags flags)
     : HbMFieldWidget(fieldType, commandManager, parent, name ? name : "HbMFDefaultFieldWidget", flags)
@@ -38,6 +40,8 @@ QString HbMFDefaultFieldWidget::getFieldValue(int row, int col) const
 
 QString HbMFDefaultFieldWidget::getCellText(int row, int col, int limit) const
 {
+    if (typeid(*this) != typeid(HbMFDefaultFieldWidget))
+        return getFieldValue(row, col); // which a derived class may have overridden
     return TextColumn::cellText(*this, textCache(), row, col, limit);
 }
 

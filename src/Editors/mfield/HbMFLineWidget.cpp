@@ -6,6 +6,8 @@
 #include "TextColumn.h"
 #include "VectorTable.h"
 
+#include <typeinfo>
+
 HbMFLineWidget::HbMFLineWidget(const char *fieldType, HbFieldEditorCommandManager *commandManager, QWidget *parent,
                                const char *name, Qt::WindowFlags flags)
     : HbMFieldWidget(fieldType, commandManager, parent, name ? name : "HbMFLineWidget", flags)
@@ -38,6 +40,8 @@ QString HbMFLineWidget::getFieldValue(int row, int col) const
 
 QString HbMFLineWidget::getCellText(int row, int col, int limit) const
 {
+    if (typeid(*this) != typeid(HbMFLineWidget))
+        return getFieldValue(row, col); // which a derived class may have overridden
     return TextColumn::cellText(*this, textCache(), row, col, limit);
 }
 

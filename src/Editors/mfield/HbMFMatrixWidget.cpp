@@ -14,10 +14,19 @@
 #include <Inventor/SbMatrix.h>
 #include <Inventor/fields/SoMFMatrix.h>
 
+#include <typeinfo>
+
 namespace
 {
 constexpr int side = 4;
 constexpr int elements = side * side;
+
+/// The first values, of which a text is made.
+QByteArray bytesOf(const SoMFMatrix &matrices, int count)
+{
+    return QByteArray::fromRawData(reinterpret_cast<const char *>(matrices.getValues(0)),
+                                   count * static_cast<int>(sizeof(SbMatrix)));
+}
 } // namespace
 
 HbMFMatrixWidget::HbMFMatrixWidget(const char *fieldType, HbFieldEditorCommandManager *commandManager, QWidget *parent,
@@ -46,7 +55,9 @@ QString HbMFMatrixWidget::getFieldValue(int row, int col) const
     if (!field || !RowValues::contains(*field, row) || col != 0)
         return {};
     constexpr int wholeField = -1;
-    return textCache().text(*field, wholeField, [field] { return CoinText::ofField(*field); });
+    const auto text = [field] { return CoinText::ofField(*field); };
+    const auto *const matrices = fieldAs<SoMFMatrix>(); // a derived class may take other fields
+    return textCache().text(*field, wholeField, text, matrices ? bytesOf(*matrices, matrices->getNum()) : QByteArray());
 }
 
 QString HbMFMatrixWidget::getCellText(int row, int col, int limit) const
@@ -57,13 +68,15 @@ QString HbMFMatrixWidget::getCellText(int row, int col, int limit) const
     constexpr int few = 64; // whose text is made at once
     constexpr int shortest = 2 * elements; // a matrix of digits
     const int start = qMax(few, limit / shortest + 2); // two at least: a list is in brackets
-    if (matrices->getNum() <= start)
+    const bool isDerived = typeid(*this) != typeid(HbMFMatrixWidget); // it may have overridden getFieldValue()
+    if (isDerived || matrices->getNum() <= start)
         return getFieldValue(row, col);
-    return textCache().text(*matrices, -1 - start, [&] {
+    const auto text = [&] {
         SoMFMatrix first;
         first.setValues(0, start, matrices->getValues(0));
         return CoinText::ofField(first);
-    });
+    };
+    return textCache().text(*matrices, -1 - start, text, bytesOf(*matrices, start));
 }
 
 QString HbMFMatrixWidget::getPopupValue(int row, int index)

@@ -5,9 +5,12 @@
 
 #include "MFieldAccess.h"
 #include "VectorTable.h"
+#include "coin/FieldReader.h"
 #include "support/CoinText.h"
 
 #include <Inventor/fields/SoMFString.h>
+
+#include <typeinfo>
 
 HbMFStringWidget::HbMFStringWidget(const char *fieldType, HbFieldEditorCommandManager *commandManager, QWidget *parent,
                                    const char *name, Qt::WindowFlags flags)
@@ -49,8 +52,9 @@ QString HbMFStringWidget::getFieldValue(int row, int col) const
 
 QString HbMFStringWidget::getCellText(int row, int col, int limit) const
 {
+    const bool isDerived = typeid(*this) != typeid(HbMFStringWidget); // it may have overridden getFieldValue()
     const auto *const strings = fieldAs<SoMFString>();
-    return strings && col == 0 && RowValues::isLongString(*strings, row)
+    return !isDerived && strings && col == 0 && RowValues::isLongString(*strings, row)
         ? RowValues::startOfString(*strings, row, limit)
         : getFieldValue(row, col);
 }
@@ -73,7 +77,7 @@ void HbMFStringWidget::setSingleFieldValue(SbString value, int row, int col)
     if (auto *const strings = fieldAs<SoMFString>())
         strings->set1Value(row, value); // not parsed: quotes are part of it
     else
-        field->set1(row, value.getString()); // a derived class may take other fields
+        FieldReader::set1(*field, row, value.getString()); // a derived class may take other fields
 }
 
 void HbMFStringWidget::swapRows(int first, int second)

@@ -22,6 +22,14 @@ HbMFieldTable::HbMFieldTable(HbFieldEditorCommandManager *commandManager, HbMFie
 {
     setObjectName(name ? QString::fromUtf8(name) : QStringLiteral("HbMFieldTable"));
     initClass();
+    connect(model(), &QAbstractItemModel::dataChanged, this, [this](const QModelIndex &cell) {
+        if (itemFromIndex(cell))
+            m_touched.insert(cell);
+        else
+            m_touched.remove(cell);
+    });
+    connect(model(), &QAbstractItemModel::rowsInserted, this, [this] { m_delegate->renumberEditors(); });
+    connect(model(), &QAbstractItemModel::rowsRemoved, this, [this] { m_delegate->renumberEditors(); });
 }
 
 HbMFieldTable::~HbMFieldTable()
@@ -36,25 +44,23 @@ HbMFieldTable::~HbMFieldTable()
 
 void HbMFieldTable::initClass()
 {
-    m_delegate = new HbMFieldTableItemDelegate(m_commandManager, m_owner, this);
-    setItemDelegate(m_delegate);
+    replaceDelegate(new HbMFieldTableItemDelegate(m_commandManager, m_owner, this));
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    m_selection->end();
     setCurrentCell(0, 0);
-    connect(model(), &QAbstractItemModel::dataChanged, this, [this](const QModelIndex &cell) {
-        if (itemFromIndex(cell))
-            m_touched.insert(cell);
-        else
-            m_touched.remove(cell);
-    });
-    connect(model(), &QAbstractItemModel::rowsInserted, this, [this] { m_delegate->renumberEditors(); });
-    connect(model(), &QAbstractItemModel::rowsRemoved, this, [this] { m_delegate->renumberEditors(); });
 }
 
 void HbMFieldTable::replaceDelegate(HbMFieldTableItemDelegate *delegate)
 {
     delete std::exchange(m_delegate, delegate);
     setItemDelegate(m_delegate);
+}
+
+void HbMFieldTable::setCellDelegate(HbMFieldTableItemDelegate *delegate)
+{
+    delegate->takeSettings(*m_delegate);
+    replaceDelegate(delegate);
 }
 
 void HbMFieldTable::setCellType(MFTableTypeCell type)
@@ -98,7 +104,7 @@ void HbMFieldTable::clearTouchedCells()
 
 void HbMFieldTable::addRow()
 {
-    if (!finishEditing() || (!m_commandManager && !m_owner->editedField()))
+    if (!finishEditing() || m_owner->hasLostField() || (!m_commandManager && !m_owner->editedField()))
         return;
     const int row = currentRow();
     clearTouchedCells();
@@ -120,7 +126,7 @@ void HbMFieldTable::addRow()
 
 void HbMFieldTable::deleteRow()
 {
-    if (!finishEditing() || rowCount() == 0)
+    if (!finishEditing() || m_owner->hasLostField() || rowCount() == 0)
         return;
     if (!m_selection->isOn()) {
         if (currentRow() >= 0)
@@ -172,7 +178,7 @@ void HbMFieldTable::swapDownRow()
 
 void HbMFieldTable::swapRows(int row1, int row2)
 {
-    if (!finishEditing())
+    if (!finishEditing() || m_owner->hasLostField())
         return;
     if (m_commandManager)
         m_commandManager->mfieldSwapRows(row1, row2);
@@ -182,8 +188,10 @@ void HbMFieldTable::swapRows(int row1, int row2)
 
 void HbMFieldTable::showTableRow(int row)
 {
-    if (row >= 0 && row < rowCount())
-        scrollTo(model()->index(row, 0), QAbstractItemView::EnsureVisible);
+    if (row < 0 || row >= rowCount())
+        return;
+    executeDelayedItemsLayout(); // else the scroll bar does not reach rows that have just come
+    scrollTo(model()->index(row, 0), QAbstractItemView::EnsureVisible);
 }
 
 void HbMFieldTable::keyPressEvent(QKeyEvent *event)

@@ -53,6 +53,16 @@ void HbMFieldTableItemDelegate::setBoundedValue(bool bounded)
     m_bounded = bounded;
 }
 
+void HbMFieldTableItemDelegate::takeSettings(const HbMFieldTableItemDelegate &other)
+{
+    m_cellType = other.m_cellType;
+    m_intMin = other.m_intMin;
+    m_intMax = other.m_intMax;
+    m_realMin = other.m_realMin;
+    m_realMax = other.m_realMax;
+    m_bounded = other.m_bounded;
+}
+
 QString HbMFieldTableItemDelegate::textToShow(const QModelIndex &index, int limit) const
 {
     return m_owner->getCellText(index.row(), index.column(), limit).left(limit);
@@ -84,8 +94,9 @@ void HbMFieldTableItemDelegate::paintText(QPainter *painter, const QStyleOptionV
         painter->fillRect(option.rect, option.palette.brush(group, QPalette::Highlight));
     painter->setFont(option.font);
     painter->setPen(option.palette.color(group, isHighlighted ? QPalette::HighlightedText : QPalette::Text));
+    const QString line = TextElision::asDrawn(text);
     painter->drawText(option.rect, m_owner->getTextFlags() | Qt::TextSingleLine,
-                      TextElision::elided(text, option.rect.width() - textMargin, QFontMetrics(option.font)));
+                      TextElision::elided(line, option.rect.width() - textMargin, QFontMetrics(option.font)));
     if (option.state & (QStyle::State_HasFocus | QStyle::State_Selected))
         painter->drawRect(option.rect.adjusted(0, 0, -1, -1));
     painter->restore();
@@ -226,7 +237,7 @@ void HbMFieldTableItemDelegate::commitText(QLineEdit *edit, QAbstractItemModel *
     const QString text = edit->text();
     const QPersistentModelIndex cell(index); // the host may answer by removing rows, or the whole editor
     const QPointer<QAbstractItemModel> alive(model);
-    if (!edit->validator() || edit->hasAcceptableInput()) {
+    if (!m_owner->hasLostField() && (!edit->validator() || edit->hasAcceptableInput())) {
         if (m_commandManager)
             m_commandManager->mfieldSet1Value(index.row(), col, text, nullptr);
         else

@@ -3,14 +3,15 @@
 
 #include <HbMFieldWidget.h>
 
-#include "AccessButtonPrivate.h"
 #include "Editors/EditorButton.h"
 #include "Editors/FieldEditorSettings.h"
 #include "support/FieldDefaults.h"
 #include "support/FieldWatch.h"
 #include "support/Icons.h"
 #include "support/RowTextCache.h"
+#include "support/TranslatedTexts.h"
 
+#include <AccessButtonPrivate.h>
 #include <HbFieldEditorCommandManager.h>
 #include <HbMFColorTable.h>
 
@@ -63,7 +64,7 @@ HbMFieldWidget::HbMFieldWidget(const char *fieldType, int tableKind, HbFieldEdit
     createButtons();
     m_table = newTable(tableKind, commandManager, this);
     initClass();
-    languageChange();
+    (new TranslatedTexts(this))->call([this] { languageChange(); });
     if (fieldType)
         m_label->setText(QString::fromUtf8(fieldType));
 }
@@ -169,8 +170,10 @@ void HbMFieldWidget::connectAll()
     connect(m_table, &QTableWidget::currentCellChanged, m_accessBox, &QSpinBox::setValue);
     connect(m_ignoreButton, &QPushButton::released, this, &HbMFieldWidget::ignoreButtonStateChanged);
     if (m_commandManager)
-        connect(m_defaultButton, &QPushButton::clicked, m_commandManager.data(),
-                &HbFieldEditorCommandManager::fieldSetDefaultValue);
+        connect(m_defaultButton, &QPushButton::clicked, this, [this] {
+            if (m_commandManager && !hasLostField())
+                m_commandManager->fieldSetDefaultValue();
+        });
     else
         // There is no such slot, deliberately: the button does nothing then, and Qt says so.
         connect(m_defaultButton, SIGNAL(clicked()), this, SLOT(setDefaultValue()));
@@ -267,6 +270,8 @@ int HbMFieldWidget::getTextFlags()
 void HbMFieldWidget::ignoreButtonStateChanged()
 {
     const bool ignored = m_ignoreButton->isChecked();
+    if (hasLostField())
+        return;
     if (m_commandManager)
         m_commandManager->fieldSetIgnored(ignored);
     else if (SoMField *const edited = editedField())

@@ -3,15 +3,16 @@
 
 #include <HbTablePopupLineEdit.h>
 
+#include "support/TranslatedTexts.h"
+
 #include <HbTablePopupWidget.h>
 
 HbTablePopupLineEdit::HbTablePopupLineEdit(int index, HbTablePopupWidget *owner, QWidget *parent, const char *name)
     : QLineEdit(parent), m_owner(owner)
 {
     setAlignment(Qt::AlignLeft);
-    setAccessibleName(tr("Component %1").arg(index + 1));
-    if (name)
-        setObjectName(QString::fromUtf8(name));
+    setObjectName(name ? QString::fromUtf8(name) : QStringLiteral("HbTablePopupLineEdit"));
+    (new TranslatedTexts(this))->set(this, "accessibleName", [index] { return tr("Component %1").arg(index + 1); });
 }
 
 HbTablePopupLineEdit::~HbTablePopupLineEdit() = default;

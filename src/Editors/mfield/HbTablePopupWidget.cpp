@@ -9,6 +9,7 @@
 #include "support/Icons.h"
 #include "support/NumberText.h"
 #include "support/PopupPlacement.h"
+#include "support/TranslatedTexts.h"
 
 #include <HbFieldEditorCommandManager.h>
 #include <HbMFieldTable.h>
@@ -41,8 +42,7 @@ HbTablePopupWidget::~HbTablePopupWidget()
 void HbTablePopupWidget::initClass(int rows, int columns)
 {
     m_editButton = newEditorButton(this, QStringLiteral("m_editButton"), Icons::edit());
-    m_editButton->setToolTip(tr("Edit the components"));
-    m_editButton->setAccessibleName(m_editButton->toolTip());
+    (new TranslatedTexts(this))->explain(m_editButton, [] { return tr("Edit the components"); });
     m_editButton->setFocusPolicy(Qt::NoFocus);
     m_moveSpacer->changeSize(nscsettings_fieldEditor(QStringLiteral("MFAccessMoveSpacerWidth"))
                                  - m_editButton->maximumWidth(),
@@ -58,12 +58,14 @@ void HbTablePopupWidget::initClass(int rows, int columns)
                          nscsettings_fieldEditor(QStringLiteral("PopupFrameHeight")));
     m_popupFrame->setFrameStyle(QFrame::StyledPanel | QFrame::Raised);
     auto *const grid = new QGridLayout(m_popupFrame);
+    grid->setSizeConstraint(QLayout::SetNoConstraint); // popupSize() decides
     const int margin = nscsettings_fieldEditor(QStringLiteral("PopupLayoutMargin"));
     grid->setContentsMargins(margin, margin, margin, margin);
     grid->setSpacing(nscsettings_fieldEditor(QStringLiteral("PopupLayoutSpacing")));
     grid->setObjectName(QStringLiteral("m_popupFrameLayout"));
     for (int index = 0; index < rows * columns; ++index) {
         auto *const edit = new HbTablePopupLineEdit(index, this, m_popupFrame, nullptr);
+        edit->setFrame(false); // for all of them to be legible in a frame of that size
         grid->addWidget(edit, index / columns, index % columns);
         connect(edit, &QLineEdit::textChanged, edit, &HbTablePopupLineEdit::setCurrentValue);
         m_popupEdits.push_back(edit);
@@ -92,6 +94,18 @@ void HbTablePopupWidget::setEditFrame()
     managePopFramePos();
 }
 
+/// As the settings say or, where letters are higher, as high as the rows of edits need.
+QSize HbTablePopupWidget::popupSize() const
+{
+    const auto *const grid = static_cast<const QGridLayout *>(m_popupFrame->layout());
+    const QMargins margins = grid->contentsMargins() + m_popupFrame->contentsMargins();
+    const int rows = m_popupEdits.empty() ? 0 : grid->rowCount();
+    const int needed = margins.top() + margins.bottom() + qMax(rows - 1, 0) * grid->verticalSpacing()
+        + rows * m_popupFrame->fontMetrics().height();
+    return {nscsettings_fieldEditor(QStringLiteral("PopupFrameWidth")),
+            qMax(nscsettings_fieldEditor(QStringLiteral("PopupFrameHeight")), needed)};
+}
+
 void HbTablePopupWidget::managePopFramePos()
 {
     if (m_popupFrame->isVisible()) {
@@ -99,7 +113,7 @@ void HbTablePopupWidget::managePopFramePos()
         return;
     }
     m_popupFrame->ensurePolished();
-    m_popupFrame->layout()->activate(); // grows the frame to what its edits need
+    m_popupFrame->resize(popupSize());
     const QPoint corner = mapToGlobal(QPoint());
     QPoint position(corner.x() - m_popupFrame->width(), corner.y()); // its right edge one pixel left of the widget
     if (const QScreen *const here = screen())
@@ -155,13 +169,14 @@ QString HbTablePopupWidget::getPopupValue(int, int)
 
 void HbTablePopupWidget::reportPopupEdit()
 {
-    if (m_filling)
+    if (m_filling || hasLostField())
         return;
     constexpr int wholeValue = -1;
+    const QString noText(QLatin1String("")); // empty, not null: that would carry no value
     if (m_commandManager)
-        m_commandManager->mfieldSet1Value(m_table->currentRow(), wholeValue, QString(), nullptr);
+        m_commandManager->mfieldSet1Value(m_table->currentRow(), wholeValue, noText, nullptr);
     else
-        set1Value(m_table->currentRow(), wholeValue, QString());
+        set1Value(m_table->currentRow(), wholeValue, noText);
 }
 
 bool HbTablePopupWidget::chooseRow(int row)

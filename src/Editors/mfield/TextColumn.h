@@ -4,6 +4,7 @@
 #ifndef TEXTCOLUMN_H
 #define TEXTCOLUMN_H
 
+#include "coin/FieldReader.h"
 #include "support/CoinText.h"
 #include "support/RowTextCache.h"
 #include "support/RowValues.h"
@@ -30,7 +31,8 @@ inline QString value(SoMField *field, int row, int col)
     return field && col == 0 ? RowValues::text(*field, row) : QString();
 }
 
-/// What a cell shows: of a long string no more than fits, else what @p widget tells.
+/// What a cell of an editor of this library shows: of a long string no more than fits. What nodes hold takes long to
+/// tell.
 inline QString cellText(const HbMFieldWidget &widget, RowTextCache &texts, int row, int col, int limit)
 {
     SoMField *const field = widget.editedField();
@@ -38,14 +40,15 @@ inline QString cellText(const HbMFieldWidget &widget, RowTextCache &texts, int r
         return {};
     if (RowValues::isLongString(*field, row))
         return RowValues::startOfStringText(static_cast<const SoMFString &>(*field), row, limit);
-    return texts.text(*field, row, [&] { return widget.getFieldValue(row, col); });
+    const auto text = [&] { return widget.getFieldValue(row, col); };
+    return RowValues::holdsObjects(*field) ? texts.text(*field, row, text) : text();
 }
 
 /// Leaves what does not parse to the field's parser.
 inline void setValue(SoMField *field, const SbString &text, int row, int col)
 {
     if (field && col == 0 && RowValues::contains(*field, row))
-        field->set1(row, text.getString());
+        FieldReader::set1(*field, row, text.getString());
 }
 } // namespace TextColumn
 

@@ -16,6 +16,15 @@ inline int mostThatFit(int width)
     return qMax(width, 0) + 16;
 }
 
+/// The text as a single line is drawn: with spaces for what would end a line or jump to a tab stop.
+inline QString asDrawn(QString text)
+{
+    for (QChar &character : text)
+        if (character.isSpace() || character.category() == QChar::Other_Control)
+            character = QLatin1Char(' ');
+    return text;
+}
+
 /**
  * The longest start of @p text that fits @p width pixels with "..." behind it, at least one character; the text
  * itself if it fits. Costs the same for any length.

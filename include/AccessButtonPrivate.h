@@ -4,6 +4,8 @@
 #ifndef ACCESSBUTTONPRIVATE_H
 #define ACCESSBUTTONPRIVATE_H
 
+#include <harborapi_export.h>
+
 #include <QSpinBox>
 
 /**
@@ -11,9 +13,10 @@
  *
  * It is no stop for Tab, but a click into it starts typing.
  */
-class AccessButtonPrivate : public QSpinBox
+class HARBORAPI_EXPORT AccessButtonPrivate : public QSpinBox
 {
 public:
+    /// A null @p name gives the object name "AccessButtonPrivate".
     AccessButtonPrivate(QWidget *parent, const char *name);
     AccessButtonPrivate(int minimum, int maximum, int step, QWidget *parent, const char *name);
 
