@@ -18,9 +18,6 @@ private Q_SLOTS:
     /// The same columns in every row of every node, whatever it consists of.
     void oneGrid()
     {
-#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
-        QSKIP("On Qt 5 the dock is a few pixels narrower than the panel: a known fault");
-#endif
         Desktop tool(
             "DEF A Texture2 { }\nDEF B SpotLight { }\nDEF C Transform { }\nDEF D Cone { }\nDEF E Coordinate3 { }\n"
             "DEF F ClipPlane { }\nDEF G MatrixTransform { }\nDEF H Complexity { }");
@@ -42,9 +39,6 @@ private Q_SLOTS:
 
     void roomForTheView()
     {
-#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
-        QSKIP("On Qt 5 the dock is a few pixels narrower than the panel: a known fault");
-#endif
         Desktop tool("DEF A Texture2 { }\nDEF B Transform { }", {"--size", "900x600"});
         tool.selectRow("Transform");
         QTRY_COMPARE(tool.selectedType(), QString("Transform"));

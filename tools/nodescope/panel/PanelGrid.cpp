@@ -73,7 +73,8 @@ void PanelGrid::align()
     m_labelWidth = std::max({m_labelWidth, usualLabel * m_metrics.character, m_widestLabel()});
     const int width = m_area.width() - m_area.style()->pixelMetric(QStyle::PM_ScrollBarExtent);
     const int part = std::max(width / 3, std::min(longLabel * m_metrics.character, width * 9 / 20));
-    const int label = std::min(m_labelWidth, std::max(readableLabel * m_metrics.character, part));
+    const int room = std::min(part, width - m_metrics.mostBeside);
+    const int label = std::min(m_labelWidth, std::max(readableLabel * m_metrics.character, room));
     for (RowShape &row : m_rows) {
         row.setLabelWidth(label);
         row.fold(width);

@@ -43,4 +43,7 @@ PanelMetrics::PanelMetrics(const QWidget &like)
     letter = std::max({metrics.horizontalAdvance(QLatin1Char('w')), metrics.horizontalAdvance(QLatin1Char('G'))});
     shortNumber = editWidth(like, QStringLiteral("-0.577"));
     longNumber = editWidth(like, QStringLiteral("-1.2345679e+08"));
+    leastEdit = 4 * character;
+    constexpr int tableButtons = 6;
+    mostBeside = tableButtons * (height + space) + leastEdit + 2 * space;
 }

@@ -19,6 +19,8 @@ struct PanelMetrics {
     int letter; ///< the width of a component's label
     int shortNumber; ///< the narrowest edit of a number
     int longNumber; ///< an edit that shows any float
+    int leastEdit; ///< the least width of an edit in a narrow panel
+    int mostBeside; ///< what a row needs beside its label: that of a table has the most buttons
 };
 
 #endif

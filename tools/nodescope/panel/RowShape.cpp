@@ -237,10 +237,10 @@ void RowShape::sizeControl(QWidget &control, const PanelMetrics &metrics) const
         setFixedHeight(control, metrics.height);
         choice->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
         choice->setMinimumContentsLength(1);
-        choice->setMinimumWidth(4 * metrics.character + metrics.height); // it would insist on its longest entry
+        choice->setMinimumWidth(metrics.leastEdit + metrics.height); // it would insist on its longest entry
     } else if (qobject_cast<QLineEdit *>(&control) || qobject_cast<QSpinBox *>(&control)) {
         setFixedHeight(control, metrics.height);
-        control.setMinimumWidth(4 * metrics.character);
+        control.setMinimumWidth(metrics.leastEdit);
         const bool isOne = isNamed(control, "edit") || isNamed(control, "m_accessBox");
         control.setMaximumWidth(isOne ? metrics.longNumber : QWIDGETSIZE_MAX);
     }
