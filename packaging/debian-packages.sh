@@ -5,8 +5,8 @@
 #
 # The Debian packages that building, running and testing need. Sourced, not run.
 
-# nodescope links zlib; Coin opens it at run time, by its development name.
-packages_build="g++ cmake ninja-build ccache qt6-base-dev libqt6opengl6-dev libcoin-dev zlib1g-dev"
+# nodescope links zlib. Coin opens it at run time, and simage for the pictures of textures, by their development names.
+packages_build="g++ cmake ninja-build ccache qt6-base-dev libqt6opengl6-dev libcoin-dev zlib1g-dev libsimage-dev"
 packages_run="libgl1-mesa-dri fontconfig fonts-dejavu-core"
 packages_virtual_display="xvfb xauth"
 packages_test="pkg-config xdotool openbox inventor-data $packages_run $packages_virtual_display"

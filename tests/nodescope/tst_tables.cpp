@@ -41,6 +41,9 @@ private Q_SLOTS:
             {"down", "0 0 0, 2 2 2, 1 0.33333334 1, 3 3 3"},
             {"columns", "0 0 0, 0.33333334 1 1, 2 2 2, 3 3 3"},
             {"paste", "0 0 0, 1 5 6, 2 7 8, 3 3 3"},
+            {"paste values", "0 0 0, 4 5 6, 7 8 9, 3 3 3"},
+            {"paste into a block", "0 0 0, 1 5 5, 2 5 5, 3 3 3"},
+            {"paste a row into rows", "0 0 0, 0 0 0, 0 0 0, 3 3 3"},
             {"paste beyond the end", "0 0 0, 1 0.33333334 1, 2 2 2, 5 6 3, 7 8 0"},
         };
         for (const auto &[command, result] : rows)
@@ -355,14 +358,37 @@ private:
             QCoreApplication::processEvents();
         } else if (command == "columns") {
             m_panel->findChild<HbFieldEditorCommandManager *>()->mfieldSwapColumns(0, 1);
+        } else if (command == "paste values") {
+            pasteText("point [ 4 5 6, # first\n 7 8 9 ]\n");
+        } else if (command == "paste into a block") {
+            select(1, 1, 2, 2);
+            pasteText("5");
+        } else if (command == "paste a row into rows") {
+            select(0, 0, 0, 2);
+            QTest::keyClick(table(), Qt::Key_C, Qt::ControlModifier);
+            select(1, 0, 2, 2);
+            QTest::keyClick(table(), Qt::Key_V, Qt::ControlModifier);
         } else if (command.startsWith("paste")) {
-            QApplication::clipboard()->setText("5\t6\n7\t8\n");
             const bool beyond = command.endsWith("end");
             table()->setCurrentCell(beyond ? 3 : 1, beyond ? 0 : 1);
-            QTest::keyClick(table(), Qt::Key_V, Qt::ControlModifier);
+            pasteText("5\t6\n7\t8\n");
         } else {
             press(qPrintable("m_" + command + "Button"));
         }
+    }
+
+    void select(int top, int left, int bottom, int right)
+    {
+        QItemSelectionModel *const model = table()->selectionModel();
+        const auto at = [this](int row, int column) { return table()->model()->index(row, column); };
+        model->setCurrentIndex(at(top, left), QItemSelectionModel::NoUpdate);
+        model->select(QItemSelection(at(top, left), at(bottom, right)), QItemSelectionModel::ClearAndSelect);
+    }
+
+    void pasteText(const QString &text)
+    {
+        QApplication::clipboard()->setText(text);
+        QTest::keyClick(table(), Qt::Key_V, Qt::ControlModifier);
     }
 
     static void type(HbMFieldTable *table, int row, int column, const QString &text)

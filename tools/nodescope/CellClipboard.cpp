@@ -246,13 +246,43 @@ CellClipboard::Taken CellClipboard::write(const Cells &cells, int top, int left,
 }
 
 /// Without blank lines, which are values among texts only.
-CellClipboard::Cells CellClipboard::read() const
+CellClipboard::Cells CellClipboard::read(const NumberForm &form) const
 {
-    Cells cells = CellText::split(QGuiApplication::clipboard()->text());
+    const QString text = QGuiApplication::clipboard()->text();
+    const bool areRows = form.kind != NumberForm::Kind::None && CellSelection::start(m_table).column() <= 0;
+    const int columns = isOfMatrices() ? 1 : CellSelection::componentCount(m_table);
+    Cells cells = areRows ? CellText::splitValues(text, columns * form.count) : Cells();
+    if (columns == 1)
+        for (QStringList &row : cells)
+            row = QStringList(row.join(space));
+    if (!cells.isEmpty())
+        return cells;
+    cells = CellText::split(text);
     const auto isBlank = [](const QStringList &line) { return line.join(QString()).trimmed().isEmpty(); };
     if (!isOfTexts())
         cells.erase(std::remove_if(cells.begin(), cells.end(), isBlank), cells.end());
     return cells;
+}
+
+/// The rows of the only block that is selected.
+int CellClipboard::selectedRows() const
+{
+    const std::vector<CellSelection::Block> blocks = CellSelection::blocks(m_table);
+    return blocks.size() == 1 ? blocks[0].rows.count() : 1;
+}
+
+/// One cell, or a row as wide as the block that is selected, is meant for all of it.
+void CellClipboard::fillSelection(Cells &cells) const
+{
+    const std::vector<CellSelection::Block> blocks = CellSelection::blocks(m_table);
+    if (cells.size() != 1 || blocks.size() != 1 || isOfMatrices())
+        return;
+    QStringList row = cells[0];
+    const int width = blocks[0].right - blocks[0].left + 1;
+    while (cells[0].size() == 1 && row.size() < width)
+        row += row.first();
+    if (row.size() == width)
+        cells.fill(row, selectedRows());
 }
 
 CellClipboard::Pasted CellClipboard::paste(const NumberForm &form) const
@@ -263,8 +293,10 @@ CellClipboard::Pasted CellClipboard::paste(const NumberForm &form) const
     const int left = qMax(CellSelection::componentOf(m_table, start.column()), 0);
     const CopiedCells *const copied = copiedCells();
     const bool isExact = copied && copied->rows && copied->rows->getTypeId() == field.getTypeId() && left == 0;
-    const Cells cells = isExact ? Cells() : read();
-    const int count = isExact ? copied->rows->getNum() : static_cast<int>(cells.size());
+    Cells cells = isExact ? Cells() : read(form);
+    fillSelection(cells);
+    const int copies = isExact && copied->rows->getNum() == 1 ? selectedRows() : 1;
+    const int count = isExact ? copies * copied->rows->getNum() : static_cast<int>(cells.size());
     const bool wasDefault = field.isDefault();
     const auto before = FieldRows::copy(field, top, count);
     Reader reader{isOfMatrices() ? form.component() : form, {}};
@@ -272,6 +304,8 @@ CellClipboard::Pasted CellClipboard::paste(const NumberForm &form) const
     OneNotification once(field);
     if (isExact) {
         FieldRows::replace(field, top, before->getNum(), *copied->rows);
+        for (int copy = 1; copy < copies; ++copy)
+            FieldRows::replace(field, top, 0, *copied->rows);
     } else {
         if (const int missing = count - before->getNum(); missing > 0)
             FieldRows::replace(field, field.getNum(), 0, *FieldRows::zeros(field, missing));

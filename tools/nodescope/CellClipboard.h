@@ -37,7 +37,8 @@ public:
     /// nothing is selected are left out, and other cells between them are empty.
     void copy() const;
     /// Writes to the field, whose cells hold numbers of this form, from the current cell or the start of the block
-    /// around it on, and adds rows where there are not enough. An empty cell changes nothing, but among texts. The
+    /// around it on, and adds rows where there are not enough. One cell or row fills the selected block. Values as
+    /// scene files have them make whole rows. An empty cell changes nothing, but among texts. The
     /// field notifies once, or not at all where nothing changes.
     Pasted paste(const NumberForm &form) const;
 
@@ -56,7 +57,9 @@ private:
     QString textOf(const std::vector<CellSelection::Block> &blocks) const;
     std::shared_ptr<SoMField> wholeRows(const std::vector<CellSelection::Block> &blocks) const;
 
-    Cells read() const;
+    Cells read(const NumberForm &form) const;
+    int selectedRows() const;
+    void fillSelection(Cells &cells) const;
     Taken write(const Cells &cells, int top, int left, Reader &reader) const;
     bool isOfMatrices() const;
     bool isOfTexts() const;

@@ -3,6 +3,9 @@
 
 #include "CellText.h"
 
+#include <QRegularExpression>
+
+#include <algorithm>
 #include <utility>
 
 namespace
@@ -45,5 +48,27 @@ QVector<QStringList> CellText::split(const QString &text)
         endCell();
     else
         rows.removeLast(); // the text ended with its last line
+    return rows;
+}
+
+QVector<QStringList> CellText::splitValues(const QString &text, int numbersInRow)
+{
+    static const QRegularExpression comment(QStringLiteral("#[^\n]*"));
+    static const QRegularExpression bracketed(QStringLiteral("^\\s*[A-Za-z]*\\s*\\[([^\\[\\]]*)\\]\\s*$"));
+    static const QRegularExpression between(QStringLiteral("(,?\\s)+|,$")); // else it may be a decimal comma
+    static const QRegularExpression number(QStringLiteral("^[-+]?(0[xX][0-9a-fA-F]+|[0-9.]+([eE][-+]?[0-9]+)?)$"));
+    if (text.contains(tab))
+        return {};
+    const QString plain = QString(text).remove(comment);
+    const QRegularExpressionMatch inBrackets = bracketed.match(plain);
+    const QString values = (inBrackets.hasMatch() ? inBrackets.captured(1) : plain).trimmed();
+    const QStringList words = values.split(between, Qt::SkipEmptyParts);
+    const bool areNumbers = std::all_of(words.begin(), words.end(),
+                                        [](const QString &word) { return number.match(word).hasMatch(); });
+    if (!areNumbers || words.size() < 2 || words.size() % numbersInRow != 0)
+        return {};
+    QVector<QStringList> rows;
+    for (int i = 0; i < words.size(); i += numbersInRow)
+        rows += words.mid(i, numbersInRow);
     return rows;
 }

@@ -5,6 +5,7 @@
 
 #include "CellCursor.h"
 #include "FieldRows.h"
+#include "NumberForm.h"
 
 #include <HbMFColorTable.h>
 #include <HbMFColorTableItemDelegate.h>
@@ -14,6 +15,7 @@
 #include <QHelpEvent>
 #include <QLineEdit>
 #include <QPainter>
+#include <QTableView>
 #include <QToolTip>
 
 #include <Inventor/fields/SoMFMatrix.h>
@@ -67,6 +69,20 @@ protected:
     }
 };
 
+/// A number that is too wide is rounded: its last digits matter least.
+QString fitted(const QString &text, int width, const QFontMetrics &metrics)
+{
+    constexpr int mostDigits = 6;
+    bool isNumber = false;
+    const double number = text.toDouble(&isNumber);
+    if (!isNumber || metrics.horizontalAdvance(text) <= width)
+        return text;
+    for (int digits = mostDigits; digits > 0; --digits)
+        if (const QString rounded = QString::number(number, 'g', digits); metrics.horizontalAdvance(rounded) <= width)
+            return rounded;
+    return text;
+}
+
 template <class Delegate> class CellDelegate : public Delegate
 {
 public:
@@ -89,7 +105,7 @@ public:
                    const QModelIndex &index) override
     {
         constexpr int most = 2000; // characters that can be taken in
-        const QString text = event->type() == QEvent::ToolTip ? this->textToShow(index, most) : QString();
+        const QString text = event->type() == QEvent::ToolTip ? Delegate::textToShow(index, most) : QString();
         if (text.isEmpty() || view->fontMetrics().horizontalAdvance(text) <= option.rect.width())
             return Delegate::helpEvent(event, view, option, index);
         QToolTip::showText(event->globalPos(), text.left(most).toHtmlEscaped(), view, option.rect);
@@ -113,6 +129,19 @@ public:
         else
             m_cursor.openNext(key == Qt::Key_Tab ? 1 : -1);
         return true;
+    }
+
+protected:
+    QString textToShow(const QModelIndex &index, int limit) const override
+    {
+        constexpr int margin = 3; // that the text leaves free
+        const QString text = Delegate::textToShow(index, limit);
+        const SoMField *const field = this->m_owner->editedField();
+        const NumberForm::Kind kind = field ? NumberForm::of(*field).kind : NumberForm::Kind::None;
+        if (kind != NumberForm::Kind::Single && kind != NumberForm::Kind::Double) // all digits of an index matter
+            return text;
+        const auto &table = static_cast<const QTableView &>(*this->parent());
+        return fitted(text, table.columnWidth(index.column()) - margin, table.fontMetrics());
     }
 
 private:
