@@ -56,6 +56,8 @@ private Q_SLOTS:
         value[3][0] = 1 / 3.0f;
         node->matrix = value;
         m_panel->setNode(node);
+        const QLineEdit *const line = edits("matrix").at(0);
+        QVERIFY(line->text().contains("0.33333334 0 0 1") && line->cursorPosition() == 0);
         Complaints::expect("This plugin does not support");
         m_panel->findChild<QPushButton *>("m_editButton")->click();
         QLineEdit *const element = edits("matrix").at(1 + 2); // behind the line of the whole value

@@ -3,11 +3,29 @@
 
 #include "ReadableLine.h"
 
+#include "NumberParts.h"
+
 #include <HbPopupWidget.h>
 
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QPushButton>
+
+namespace
+{
+/// "0.8" and not "0.80000001", which are the same float.
+QString shortened(const QString &text)
+{
+    QStringList words = text.split(QLatin1Char(' '));
+    for (QString &word : words) {
+        bool isNumber = false;
+        const float number = word.toFloat(&isNumber);
+        if (isNumber)
+            word = NumberParts::shortest(number);
+    }
+    return words.join(QLatin1Char(' '));
+}
+} // namespace
 
 ReadableLine::ReadableLine(HbPopupWidget &editor) : QObject(&editor), m_editor(editor)
 {
@@ -18,7 +36,15 @@ ReadableLine::ReadableLine(HbPopupWidget &editor) : QObject(&editor), m_editor(e
     palette.setBrush(QPalette::Base, palette.brush(QPalette::Window)); // it does not ask to be typed in
     line->setPalette(palette);
     line->installEventFilter(this);
-    connect(line, &QLineEdit::textChanged, line, [line] { line->setCursorPosition(0); });
+    const auto showStart = [line] {
+        if (!line->hasFocus())
+            line->setCursorPosition(0);
+    };
+    connect(line, &QLineEdit::cursorPositionChanged, line, showStart); // setting the same text moves it to the end
+    const auto shorten = [line] { line->setText(shortened(line->text())); };
+    connect(line, &QLineEdit::textChanged, line, shorten);
+    shorten();
+    showStart();
 }
 
 bool ReadableLine::eventFilter(QObject *, QEvent *event)
