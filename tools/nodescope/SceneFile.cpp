@@ -5,10 +5,10 @@
 
 #include "CoinMessages.h"
 #include "CoinRef.h"
+#include "Containment.h"
 #include "FileState.h"
 #include "SceneGuard.h"
 #include "SceneOutput.h"
-#include "ScenePath.h"
 #include "SourceText.h"
 
 #include <Inventor/SoDB.h>
