@@ -71,7 +71,8 @@ bool isScript(const SoFieldContainer &container)
 bool isMention(const SoFieldContainer &container, const SoField &field)
 {
     static const SbName unknown("UnknownNode");
-    const bool isNode = field.getTypeId() == SoSFNode::getClassTypeId() || field.getTypeId() == SoMFNode::getClassTypeId();
+    const bool isNode
+        = field.getTypeId() == SoSFNode::getClassTypeId() || field.getTypeId() == SoMFNode::getClassTypeId();
     return isNode && (isScript(container) || container.getTypeId().getName() == unknown);
 }
 

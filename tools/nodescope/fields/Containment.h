@@ -10,8 +10,8 @@
 class SoField;
 class SoFieldContainer;
 
-/// What a walk through a scene has yet to go to. Each node is given once, wherever it stands, so that the walk ends even
-/// where a node contains itself.
+/// What a walk through a scene has yet to go to. Each node is given once, wherever it stands, so that the walk ends
+/// even where a node contains itself.
 template <class Node> class OpenNodes
 {
 public:
