@@ -111,34 +111,6 @@ private Q_SLOTS:
         checkFormat(fileName, "\x1f\x8b");
     }
 
-    void unreadableFilesLeaveTheSceneOpen()
-    {
-        const QByteArray header = "#Inventor V2.1 ascii\n";
-        const std::pair<QByteArray, QString> rows[] = {
-            {header + "\nSeparator {\n  Cone { height x }\n}\n", "line"},
-            {"hello", "bad.iv"},
-            {"", "empty"},
-            {header + "Separator { DEF A Separator { Cube { } USE A } }", "itself"},
-            {header + QByteArray("Separator { Info { string \"}\" }").repeated(20000), "levels"},
-            {header + "Cube { width " + QByteArray(3000, '1') + " }", "number"},
-            {header + "DEF " + QByteArray(70000, 'a') + " Cube { }", "word"},
-        };
-        SceneDocument document;
-        QStringList messages;
-        QVERIFY(document.open(bundledScene, &messages));
-        SoNode *const root = document.root();
-        for (const auto &[content, reason] : rows) {
-            messages.clear();
-            QVERIFY(!document.open(write(QStringLiteral("bad.iv"), content), &messages));
-            QVERIFY2(messages.join('\n').contains(reason), qPrintable(messages.join('\n')));
-            QCOMPARE(document.root(), root);
-        }
-        QVERIFY(!document.save(QStringLiteral("/nowhere/scene.iv"), &messages));
-        const QString harmless = QString::fromLatin1(header + "Info { string \"" + QByteArray(70000, '{') + "\" } #"
-                                                     + QByteArray(70000, '{'));
-        QVERIFY(document.open(write(QStringLiteral("good.iv"), harmless.toLatin1()), &messages));
-    }
-
     void largeScenesFillOnDemand()
     {
         const Ref<SoSeparator> root;

@@ -160,12 +160,6 @@ private Q_SLOTS:
         const auto another = coinRef(new SoDrawStyle);
         const auto choice = FieldClipboard::valueFor(another->style, &problem);
         QVERIFY(choice && text(*choice) == "LINES");
-
-        const auto texture = coinRef(new SoSceneTexture2);
-        SoSFNode holder;
-        holder.setValue(texture.get());
-        FieldClipboard::copy(holder);
-        QVERIFY(!FieldClipboard::valueFor(texture->scene, &problem)); // it would contain itself
         QGuiApplication::clipboard()->clear();
     }
 };

@@ -3,11 +3,21 @@
 
 #include "PanelFixture.h"
 
+#include "tools/nodescope/FieldRow.h"
+#include "tools/nodescope/fields/FieldClipboard.h"
+
+#include <HbMFieldTable.h>
+
+#include <QClipboard>
+
 #include <Inventor/fields/SoFields.h>
 #include <Inventor/nodes/SoCylinder.h>
 #include <Inventor/nodes/SoDirectionalLight.h>
 #include <Inventor/nodes/SoDrawStyle.h>
 #include <Inventor/nodes/SoMatrixTransform.h>
+#include <Inventor/nodes/SoSceneTexture2.h>
+#include <Inventor/nodes/SoSeparator.h>
+#include <Inventor/nodes/SoShaderProgram.h>
 #include <Inventor/nodes/SoTexture2.h>
 #include <Inventor/nodes/SoTransform.h>
 
@@ -155,6 +165,45 @@ private Q_SLOTS:
         QVERIFY(light->color.getValue() == SbColor(1, 0, 0) && m_stack->count() == 1);
         m_stack->undo();
         QVERIFY(light->color.getValue() == before);
+    }
+
+    void nodesThatWouldContainThemselvesAreRefused()
+    {
+        const Ref<SoSeparator> circle;
+        auto *const texture = new SoSceneTexture2;
+        auto *const program = new SoShaderProgram;
+        circle->addChild(texture);
+        circle->addChild(program);
+        program->shaderObject.setNum(1);
+        const auto rowOf = [this](const SoField &field) {
+            const auto rows = m_panel->findChildren<FieldRow *>();
+            return *std::find_if(rows.begin(), rows.end(), [&](const FieldRow *row) { return row->field() == &field; });
+        };
+        SoSFNode copied;
+        copied.setValue(circle);
+        for (const char *const text :
+             {"DEF Loop Separator { USE Loop }",
+              "Group { DEF Loop Group { Cube { } IndexedFaceSet { vertexProperty USE Loop } } }"}) {
+            m_panel->setNode(texture);
+            enter(edits("scene").at(0), text);
+            QApplication::clipboard()->setText(text);
+            rowOf(texture->scene)->pasteValue();
+            FieldClipboard::copy(copied);
+            rowOf(texture->scene)->pasteValue();
+            m_panel->setNode(program);
+            auto *const table = m_panel->editorOf("shaderObject")->findChild<HbMFieldTable *>();
+            enter(openCell(table, 0, 0), text);
+            QCoreApplication::processEvents();
+            QApplication::clipboard()->setText(text);
+            QTest::keyClick(table, Qt::Key_V, Qt::ControlModifier);
+            QVERIFY2(m_messages.size() == 5 && m_messages.filter("itself").size() == 5,
+                     qPrintable(m_messages.join('\n')));
+            QVERIFY(!texture->scene.getValue() && !program->shaderObject[0] && m_stack->count() == 0);
+            m_messages.clear();
+        }
+        m_panel->setNode(texture);
+        enter(edits("scene").at(0), "DEF Own Separator { Cube { } }");
+        QVERIFY(texture->scene.getValue() && m_stack->count() == 1 && m_messages.isEmpty());
     }
 
     void imageComesBackWithItsFileName()

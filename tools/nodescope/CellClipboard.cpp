@@ -4,6 +4,7 @@
 #include "CellClipboard.h"
 
 #include "CellText.h"
+#include "Containment.h"
 #include "ExactNumbers.h"
 #include "FieldRows.h"
 #include "OneNotification.h"
@@ -12,6 +13,7 @@
 #include <HbMFieldWidget.h>
 
 #include <QClipboard>
+#include <QCoreApplication>
 #include <QGuiApplication>
 #include <QMimeData>
 
@@ -197,7 +199,9 @@ bool CellClipboard::writeCell(int row, int column, const QString &text, Reader &
     field.setDefault(TRUE); // until it is written: it is silent
     m_widget.set1Value(row, column, *plain);
     ExactNumbers::mend(field, row, *before, shown, *plain);
-    if (!field.isDefault() && isMeant(m_widget.getFieldValue(row, column), *plain, numbers))
+    if (leadsInCircles(field))
+        reader.refusal = QCoreApplication::translate("CellClipboard", "A node would contain itself.");
+    else if (!field.isDefault() && isMeant(m_widget.getFieldValue(row, column), *plain, numbers))
         return true;
     FieldRows::replace(field, row, 1, *before);
     return false;

@@ -6,6 +6,7 @@
 #include "FieldPanel.h"
 #include "MainWindow.h"
 #include "SceneDocument.h"
+#include "SceneSearch.h"
 #include "SceneTree.h"
 
 #include <HbSlider.h>
@@ -18,6 +19,8 @@
 #include <QApplication>
 #include <QKeyEvent>
 #include <QLineEdit>
+
+#include <algorithm>
 
 namespace
 {
@@ -34,19 +37,9 @@ bool hasNumber(const SoNode *node)
     return false;
 }
 
-/// The places of the first shapes, and last of one with a number to edit, in the order of the scene.
-bool collectShapes(const SoNode *parent, const ScenePath &path, QVector<ScenePath> *found)
+bool isEditableShape(const SoNode &node)
 {
-    constexpr int enough = 3;
-    int index = 0;
-    for (const SoNode *child : childrenOf(parent)) {
-        const ScenePath place = path + ScenePath{index++};
-        if (child->isOfType(SoShape::getClassTypeId()) && hasNumber(child))
-            found->append(place);
-        if (found->size() >= enough || collectShapes(child, place, found))
-            return true;
-    }
-    return false;
+    return node.isOfType(SoShape::getClassTypeId()) && hasNumber(&node);
 }
 
 void press(QWidget *widget, int key, const QString &text = {}, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
@@ -67,10 +60,10 @@ Demo::Demo(MainWindow *window) : QObject(window), m_window(window)
 
 void Demo::start()
 {
-    QVector<ScenePath> shapes;
-    collectShapes(m_window->document()->root(), {}, &shapes);
-    for (const ScenePath &shape : qAsConst(shapes))
-        m_steps.emplace_back([this, shape] { return selectNode(shape); });
+    constexpr qint64 enough = 3;
+    const SceneSearch shapes(m_window->document()->root(), isEditableShape);
+    for (qint64 i = 0; i < std::min(shapes.count(), enough); ++i)
+        m_steps.emplace_back([this, shape = shapes.place(i)] { return selectNode(shape); });
     m_steps.emplace_back([this] { return typeNumber(); });
     m_steps.emplace_back([this] { return undo(); });
     m_steps.emplace_back([] { return true; }); // until the editors have followed

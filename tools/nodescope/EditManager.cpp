@@ -3,6 +3,7 @@
 
 #include "EditManager.h"
 
+#include "Containment.h"
 #include "EditorTable.h"
 #include "ExactNumbers.h"
 #include "FieldCommand.h"
@@ -152,19 +153,24 @@ void EditManager::edit(const FieldSnapshot &before, const std::function<void()> 
         const KeptImages kept(*m_field);
         write();
     }
-    const bool isAccepted = watch.isWritten();
-    if (isAccepted)
+    const QString why = refusal(watch);
+    if (why.isEmpty())
         record(before, m_editSeries, images);
     else
         before.restore(*m_field);
     refresh(); // at once, so that an edit that reports twice is heard once
-    if (!isAccepted)
-        tellRefused();
+    if (!why.isEmpty())
+        Q_EMIT message(why);
 }
 
-void EditManager::tellRefused()
+QString EditManager::refusal(const WriteWatch &watch) const
 {
-    Q_EMIT message(tr("%1 does not accept what was entered.").arg(FieldText::qualifiedName(*m_field)));
+    const QString name = FieldText::qualifiedName(*m_field);
+    if (!watch.isWritten())
+        return tr("%1 does not accept what was entered.").arg(name);
+    if (leadsInCircles(*m_field))
+        return tr("%1 cannot hold what was entered: a node would contain itself.").arg(name);
+    return {};
 }
 
 void EditManager::record(const FieldSnapshot &before, int series, const std::vector<FieldState> &images)

@@ -19,6 +19,7 @@ class MaskTicks;
 class QLineEdit;
 class QUndoStack;
 class ShownNumbers;
+class WriteWatch;
 
 /**
  * Turns the edits of one editor into undo steps.
@@ -79,7 +80,8 @@ protected:
     QUndoStack *stack() const { return m_stack; }
     /// Where the field cannot be edited: says why.
     bool refuse();
-    void tellRefused();
+    /// Why the field does not keep what was written to it, in one sentence; empty where it does.
+    QString refusal(const WriteWatch &watch) const;
     TypedNumbers &typing() { return m_typing; }
     /// Of the commands that an edit makes.
     int editSeries() const { return m_editSeries; }

@@ -5,15 +5,16 @@
 
 #include "CoinMessages.h"
 #include "CoinRef.h"
+#include "Containment.h"
 #include "FileState.h"
 #include "SceneGuard.h"
 #include "SceneOutput.h"
-#include "ScenePath.h"
 #include "SourceText.h"
 
 #include <Inventor/SoDB.h>
 #include <Inventor/SoInput.h>
 #include <Inventor/actions/SoWriteAction.h>
+#include <Inventor/errors/SoReadError.h>
 
 #include <QCoreApplication>
 #include <QDir>
@@ -49,14 +50,23 @@ QString whyUnreadable(const QString &fileName, QByteArray *start)
     return whyUnsafe(fileName);
 }
 
+/// Coin takes what begins no node for the end.
+void tellOfTheRest(SoInput *input)
+{
+    if (!input->eof())
+        SoReadError::post(input, "%s", tr("no node begins here; the rest is not read, nor saved").toUtf8().constData());
+}
+
 bool readTopLevelNodes(SoInput *input, SoGroup *root)
 {
     for (;;) {
         SoNode *node = nullptr;
         if (!SoDB::read(input, node))
             return false;
-        if (!node)
+        if (!node) {
+            tellOfTheRest(input);
             return true;
+        }
         root->addChild(node);
     }
 }

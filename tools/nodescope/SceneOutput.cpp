@@ -58,7 +58,9 @@ QByteArray SceneOutput::content() const
     void *buffer = nullptr;
     std::size_t size = 0;
     getBuffer(buffer, size);
-    const QByteArray plain(static_cast<const char *>(buffer), static_cast<Size>(size));
+    QByteArray plain(static_cast<const char *>(buffer), static_cast<Size>(size));
+    if (plain.isEmpty()) // no node was written: Coin leaves a binary file without its header then
+        plain = getDefaultBinaryHeader().getString() + QByteArray("\n");
     return m_gzip ? gzipped(plain) : plain;
 }
 

@@ -13,7 +13,6 @@
 
 #include <algorithm>
 #include <deque>
-#include <unordered_map>
 #include <unordered_set>
 #include <utility>
 
@@ -85,48 +84,6 @@ bool hasChildren(const SoNode *node)
 {
     const SoChildList *list = node->getChildren();
     return (list && list->getLength() > 0) || !heldNodes(*node).empty();
-}
-
-bool leadsTo(SoNode *node, const SoNode *wanted)
-{
-    std::vector<SoNode *> open{node};
-    std::unordered_set<const SoNode *> seen{node};
-    while (!open.empty()) {
-        SoNode *const next = open.back();
-        open.pop_back();
-        if (next == wanted)
-            return true;
-        for (SoNode *const child : childrenOf(next))
-            if (seen.insert(child).second)
-                open.push_back(child);
-    }
-    return false;
-}
-
-bool containsItself(SoNode *root)
-{
-    struct Step {
-        SoNode *node;
-        std::vector<SoNode *> children;
-        std::size_t next = 0;
-    };
-    std::unordered_map<SoNode *, bool> isOpen{{root, true}}; // a node on the way down is open
-    std::vector<Step> way{{root, ownChildrenOf(root)}};
-    while (!way.empty()) {
-        Step &step = way.back();
-        if (step.next == step.children.size()) {
-            isOpen[step.node] = false;
-            way.pop_back();
-            continue;
-        }
-        SoNode *const child = step.children[step.next++];
-        const auto [known, isNew] = isOpen.emplace(child, true);
-        if (isNew)
-            way.push_back({child, ownChildrenOf(child)});
-        else if (known->second)
-            return true;
-    }
-    return false;
 }
 
 ScenePath findPath(SoNode *root, const QString &text, QString *problem)

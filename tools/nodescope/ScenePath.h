@@ -22,12 +22,6 @@ std::vector<SoNode *> childrenOf(const SoNode *node);
 std::vector<SoNode *> ownChildrenOf(const SoNode *node);
 bool hasChildren(const SoNode *node);
 
-/// Whether @p wanted is @p node or stands somewhere below it.
-bool leadsTo(SoNode *node, const SoNode *wanted);
-
-/// Whether a node stands below itself: such a scene can be read, but never drawn or saved.
-bool containsItself(SoNode *root);
-
 /**
  * The path that @p text spells: names and child indices, separated by '/', as in "Lighthouse/0/Lamp".
  *

@@ -153,7 +153,8 @@ void TableManager::editRow(int row, std::shared_ptr<SoMField> before, bool wasDe
     const KeptImages kept(*rows());
     const WriteWatch watch(*rows());
     write();
-    const bool isAccepted = watch.isWritten();
+    const QString why = refusal(watch);
+    const bool isAccepted = why.isEmpty();
     const auto after = FieldRows::copy(*rows(), row, 1);
     const bool isSame = FieldRows::areSame(*before, *after);
     if (!isSame && isAccepted)
@@ -166,7 +167,7 @@ void TableManager::editRow(int row, std::shared_ptr<SoMField> before, bool wasDe
         m_cells->beginSeries();
     refresh();
     if (!isAccepted)
-        tellRefused();
+        Q_EMIT message(why);
 }
 
 /// Whether a text is that of its cell, or of the cell's slider, which may tell less than the value.

@@ -7,8 +7,6 @@
 #include "FieldLength.h"
 #include "FieldSnapshot.h"
 #include "FieldText.h"
-#include "NodesInFields.h"
-#include "ScenePath.h"
 #include "TextValue.h"
 
 #include <QClipboard>
@@ -17,9 +15,6 @@
 #include <QMimeData>
 
 #include <Inventor/fields/SoFields.h>
-#include <Inventor/nodes/SoNode.h>
-
-#include <algorithm>
 
 namespace
 {
@@ -55,17 +50,6 @@ bool isCopyable(const SoField &value, const SoField &target)
         && !target.isOfType(SoMFEnum::getClassTypeId());
 }
 
-/// Whether the node that @p target belongs to is one of the nodes in @p value or stands below them.
-bool wouldContainItself(const SoField &value, const SoField &target)
-{
-    const SoFieldContainer *const owner = target.getContainer();
-    if (!owner || !owner->isOfType(SoNode::getClassTypeId()))
-        return false;
-    const std::vector<SoNode *> nodes = nodesIn(value);
-    return std::any_of(nodes.begin(), nodes.end(),
-                       [&](SoNode *node) { return leadsTo(node, static_cast<const SoNode *>(owner)); });
-}
-
 std::shared_ptr<SoField> copyOf(const SoField &field)
 {
     const std::shared_ptr<SoField> copy(static_cast<SoField *>(field.getTypeId().createInstance()));
@@ -90,10 +74,6 @@ std::shared_ptr<SoField> FieldClipboard::valueFor(const SoField &target, QString
     const QMimeData *const data = QGuiApplication::clipboard()->mimeData();
     const auto *const field = qobject_cast<const FieldData *>(data);
     const QString name = FieldText::qualifiedName(target);
-    if (field && wouldContainItself(field->value(), target)) {
-        *problem = sentence("%1 cannot hold the copied node: it would contain itself.").arg(name);
-        return nullptr;
-    }
     if (field && isCopyable(field->value(), target))
         return copyOf(field->value());
     const std::shared_ptr<SoField> value = copyOf(target); // with the names of its choices

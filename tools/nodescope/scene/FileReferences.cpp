@@ -3,6 +3,7 @@
 
 #include "FileReferences.h"
 
+#include "Containment.h"
 #include "NodeOrigin.h"
 #include "ScenePath.h"
 
@@ -12,9 +13,6 @@
 
 #include <QFile>
 #include <QFileInfo>
-
-#include <unordered_set>
-#include <vector>
 
 namespace
 {
@@ -45,19 +43,17 @@ void addFrom(const SoField *field, QStringList *names)
 QStringList relativeReferences(SoNode *root)
 {
     QStringList names;
-    std::unordered_set<const SoNode *> seen;
-    std::vector<SoNode *> open{root};
-    while (!open.empty()) {
-        SoNode *const node = open.back();
-        open.pop_back();
-        if (!seen.insert(node).second || NodeOrigin::of(node).kind != NodeOrigin::Scene)
+    OpenNodes<SoNode> open;
+    open.add(root);
+    while (SoNode *const node = open.take()) {
+        if (NodeOrigin::of(node).kind != NodeOrigin::Scene)
             continue;
         for (const char *field : {"filename", "filenames", "url"})
             addFrom(node->getField(field), &names);
         if (NodeOrigin::namedBy(node).kind != NodeOrigin::Scene)
             addFrom(node->getField("name"), &names);
         for (SoNode *const child : childrenOf(node))
-            open.push_back(child);
+            open.add(child);
     }
     return names;
 }
