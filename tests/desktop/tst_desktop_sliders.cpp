@@ -8,12 +8,6 @@ class TestDesktopSliders : public QObject
 {
     Q_OBJECT
 
-    static QByteArray contentOf(const Desktop &tool)
-    {
-        QFile file(tool.sceneFile());
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    }
-
     /// A click on a window that is still finding its place may be lost.
     static void select(Desktop &tool, const char *type)
     {
@@ -160,7 +154,6 @@ private Q_SLOTS:
     void undoneStepsLeaveNoTrace()
     {
         Desktop tool("Material { }\nCone { }");
-        const QByteArray before = contentOf(tool);
         select(tool, "Material");
         tool.doubleClick(tool.cell("Material.shininess", 0));
         tool.click(at(tool.control("Material.shininess", "QSlider"), 0.9));

@@ -139,6 +139,40 @@ private Q_SLOTS:
         QVERIFY(material->shininess.isDefault());
     }
 
+    void sliderThereAndBackLeavesNoTrace_data()
+    {
+        QTest::addColumn<int>("bits");
+        for (int bits = 0; bits < 8; ++bits)
+            QTest::addRow("%d", bits) << bits;
+    }
+
+    void sliderThereAndBackLeavesNoTrace()
+    {
+        QFETCH(int, bits);
+        const bool isDefault = bits & 1;
+        const bool isDragged = bits & 2;
+        const bool isIgnored = bits & 4;
+        const Ref<SoMaterial> material;
+        if (!isDefault)
+            material->shininess = 1 / 3.0f; // between the slider's places
+        m_panel->setNode(material);
+        const QByteArray before = saved(material);
+        openCell(control<HbMFieldTable>("Material.shininess"), 0, 0);
+        QCoreApplication::processEvents();
+        auto *const slider = control<HbMFieldTable>("Material.shininess")->findChild<QSlider *>();
+        const int place = slider->value();
+        slider->setSliderDown(isDragged);
+        for (const int moved : {20, 40, 0}) {
+            if (isIgnored)
+                m_panel->editorOf("shininess")->findChild<QPushButton *>("m_ignoreButton")->click();
+            slider->setSliderPosition(place + moved);
+            QCoreApplication::processEvents();
+        }
+        slider->setSliderDown(false);
+        m_stack->setIndex(0);
+        QCOMPARE(saved(material), before);
+    }
+
     void retypedTextLeavesTheValue()
     {
         const Ref<SoMaterial> material;
