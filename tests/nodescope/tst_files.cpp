@@ -85,6 +85,14 @@ private Q_SLOTS:
         QCOMPARE(readScene(write("#Inventor V2.1 binary\n# = #")).losses.comments, 0);
     }
 
+    void readingTellsHowFarItIs()
+    {
+        std::vector<double> parts;
+        const QString fileName = write(inventor + "Coordinate3 { point [ " + QByteArray("1.5 2.5 3.5, ").repeated(500000) + "] }");
+        QVERIFY(readScene(fileName, [&parts](double part) { parts.push_back(part); }).root);
+        QVERIFY(!parts.empty() && parts.front() > 0 && parts.back() <= 1 && std::is_sorted(parts.begin(), parts.end()));
+    }
+
     void onlyRegularFilesAreReadAndReplaced()
     {
         const QString pipe = m_directory.filePath("pipe");

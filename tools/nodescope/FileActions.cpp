@@ -11,12 +11,14 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QElapsedTimer>
 #include <QFileDialog>
 
 using FileQuestions::Answer;
 
 namespace
 {
+constexpr qint64 shortWait = 300; // milliseconds
 
 QString nameOf(const QString &fileName)
 {
@@ -43,7 +45,14 @@ bool FileActions::read(const QString &fileName)
 {
     QStringList messages;
     QApplication::setOverrideCursor(Qt::WaitCursor);
-    const bool opened = m_document->open(fileName, &messages);
+    QElapsedTimer sinceBegun;
+    sinceBegun.start();
+    const auto progress = [&](double part) {
+        if (sinceBegun.elapsed() >= shortWait)
+            m_messages->showProgress(tr("Reading %1: %2 %").arg(nameOf(fileName)).arg(int(100 * part)));
+    };
+    const bool opened = m_document->open(fileName, &messages, progress);
+    m_messages->endProgress();
     QApplication::restoreOverrideCursor();
     for (const QString &message : std::as_const(messages))
         m_messages->add(message);

@@ -70,6 +70,19 @@ void MessageBar::outdate()
     showText({});
 }
 
+/// Paints without the event loop, in which the user could start something else.
+void MessageBar::showProgress(const QString &text)
+{
+    showText(text);
+    m_last->repaint();
+}
+
+void MessageBar::endProgress()
+{
+    showText({});
+    showLast();
+}
+
 QStringList MessageBar::messages() const
 {
     QStringList texts;

@@ -25,6 +25,10 @@ public:
     void outdate();
     QStringList messages() const;
 
+    /// Shows at once how far something has come that keeps the program busy.
+    void showProgress(const QString &text);
+    void endProgress();
+
 protected:
     void resizeEvent(QResizeEvent *event) override;
 

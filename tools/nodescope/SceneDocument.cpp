@@ -26,11 +26,11 @@ SceneDocument::SceneDocument(QObject *parent) : QObject(parent)
     });
 }
 
-bool SceneDocument::open(const QString &fileName, QStringList *messages)
+bool SceneDocument::open(const QString &fileName, QStringList *messages, const ReadingProgress &progress)
 {
     const bool isPiped = fileName == standardInput;
     const FileState state = isPiped ? FileState() : FileState(fileName); // from before, so that no change escapes
-    SceneFile file = readScene(fileName);
+    SceneFile file = readScene(fileName, progress);
     *messages = file.messages;
     if (!file.root)
         return false;

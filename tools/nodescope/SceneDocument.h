@@ -32,7 +32,7 @@ public:
     QUndoStack *undoStack() { return &m_undoStack; }
 
     /// On failure the open scene stays. @p messages are reasons, or warnings about a file that was read.
-    bool open(const QString &fileName, QStringList *messages);
+    bool open(const QString &fileName, QStringList *messages, const ReadingProgress &progress = {});
     /// Saves in the format that was opened; on failure the document stays modified.
     bool save(const QString &fileName, QStringList *messages);
 

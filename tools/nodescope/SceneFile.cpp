@@ -8,6 +8,7 @@
 #include "Containment.h"
 #include "FileState.h"
 #include "SceneGuard.h"
+#include "SceneInput.h"
 #include "SceneOutput.h"
 #include "SourceText.h"
 
@@ -71,11 +72,16 @@ bool readTopLevelNodes(SoInput *input, SoGroup *root)
     }
 }
 
+bool isPacked(const QByteArray &start)
+{
+    return start == QByteArray("\x1f\x8b");
+}
+
 SceneFormat formatOf(SoInput &input, const QByteArray &start)
 {
     SceneFormat format;
     format.binary = input.isBinary();
-    format.gzip = start == QByteArray("\x1f\x8b");
+    format.gzip = isPacked(start);
     if (input.isFileVRML1() || input.isFileVRML2())
         format.header = input.getHeader().getString();
     return format;
@@ -119,7 +125,7 @@ SaveLosses lossesOf(const QString &fileName, SoNode *root, SceneFormat format)
     return SaveLosses::between(source, written);
 }
 
-SceneFile readRegularFile(const QString &fileName)
+SceneFile readRegularFile(const QString &fileName, const ReadingProgress &progress)
 {
     SceneFile file;
     QByteArray start;
@@ -130,7 +136,8 @@ SceneFile readRegularFile(const QString &fileName)
     }
 
     const CoinMessages coin;
-    SoInput input;
+    const qint64 size = isPacked(start) ? 0 : QFileInfo(fileName).size();
+    SceneInput input(size, progress);
     const std::shared_ptr<SoSeparator> root = coinRef<SoSeparator>(new SceneRoot);
     const bool opened = input.openFile(QFile::encodeName(fileName).constData());
     const bool valid = opened && input.isValidFile();
@@ -153,7 +160,7 @@ SceneFile readRegularFile(const QString &fileName)
 }
 
 /// By way of a file, which can be looked into before Coin reads it.
-SceneFile readStandardInput()
+SceneFile readStandardInput(const ReadingProgress &progress)
 {
     const QString name = tr("Standard input");
     SceneFile file;
@@ -168,7 +175,7 @@ SceneFile readStandardInput()
         file.messages = QStringList{tr("%1: %2").arg(name, copy.errorString())};
         return file;
     }
-    file = readRegularFile(copy.fileName());
+    file = readRegularFile(copy.fileName(), progress);
     file.messages.replaceInStrings(copy.fileName(), name);
     return file;
 }
@@ -192,12 +199,12 @@ void SceneRoot::write(SoWriteAction *action)
         getChild(i)->write(action);
 }
 
-SceneFile readScene(const QString &fileName)
+SceneFile readScene(const QString &fileName, const ReadingProgress &progress)
 {
     const bool isPiped = fileName == standardInput;
     const QString path = isPiped ? QDir::current().filePath(fileName) : QFileInfo(fileName).absoluteFilePath();
     const auto directory = std::make_shared<SceneDirectory>(path);
-    SceneFile file = isPiped ? readStandardInput() : readRegularFile(path);
+    SceneFile file = isPiped ? readStandardInput(progress) : readRegularFile(path, progress);
     file.directory = directory;
     return file;
 }

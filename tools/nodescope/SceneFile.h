@@ -11,6 +11,7 @@
 #include <QByteArray>
 #include <QStringList>
 
+#include <functional>
 #include <memory>
 
 /**
@@ -54,11 +55,14 @@ struct SceneFile {
     QStringList messages;
 };
 
+/// Told now and then while a file is read: the part of its bytes that have been, from 0 to 1.
+using ReadingProgress = std::function<void(double part)>;
+
 /// In place of a file's name: the scene comes through standard input.
 inline const QLatin1String standardInput("-");
 
 /// Reads a regular file, or standard input to its end.
-SceneFile readScene(const QString &fileName);
+SceneFile readScene(const QString &fileName, const ReadingProgress &progress = {});
 
 /**
  * Replaces @p fileName whole or, on failure, leaves it as it was and says why in @p messages.
