@@ -88,7 +88,8 @@ private Q_SLOTS:
     void readingTellsHowFarItIs()
     {
         std::vector<double> parts;
-        const QString fileName = write(inventor + "Coordinate3 { point [ " + QByteArray("1.5 2.5 3.5, ").repeated(500000) + "] }");
+        const QString fileName
+            = write(inventor + "Coordinate3 { point [ " + QByteArray("1.5 2.5 3.5, ").repeated(500000) + "] }");
         QVERIFY(readScene(fileName, [&parts](double part) { parts.push_back(part); }).root);
         QVERIFY(!parts.empty() && parts.front() > 0 && parts.back() <= 1 && std::is_sorted(parts.begin(), parts.end()));
     }

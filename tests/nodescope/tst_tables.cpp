@@ -38,12 +38,15 @@ private Q_SLOTS:
             {"rows here and there", "1 0.33333334 1"},
             {"typed", "0 0 0, -2.5 0.33333334 1, 2 2 2, 3 3 3"},
             {"up", "1 0.33333334 1, 0 0 0, 2 2 2, 3 3 3"},
+            {"up by key", "1 0.33333334 1, 0 0 0, 2 2 2, 3 3 3"},
             {"down", "0 0 0, 2 2 2, 1 0.33333334 1, 3 3 3"},
             {"columns", "0 0 0, 0.33333334 1 1, 2 2 2, 3 3 3"},
             {"paste", "0 0 0, 1 5 6, 2 7 8, 3 3 3"},
             {"paste values", "0 0 0, 4 5 6, 7 8 9, 3 3 3"},
             {"paste into a block", "0 0 0, 1 5 5, 2 5 5, 3 3 3"},
             {"paste a row into rows", "0 0 0, 0 0 0, 0 0 0, 3 3 3"},
+            {"paste list", "0 0 0, 4 5 6, 7 8 9, 3 3 3"},
+            {"delete the last", "0 0 0, 1 0.33333334 1, 2 2 2"},
             {"paste beyond the end", "0 0 0, 1 0.33333334 1, 2 2 2, 5 6 3, 7 8 0"},
         };
         for (const auto &[command, result] : rows)
@@ -394,6 +397,14 @@ private:
             m_panel->findChild<HbFieldEditorCommandManager *>()->mfieldSwapColumns(0, 1);
         } else if (command == "paste values") {
             pasteText("point [ 4 5 6, # first\n 7 8 9 ]\n");
+        } else if (command == "paste list") {
+            pasteText("4,5,6, 7,8,9");
+        } else if (command == "up by key") {
+            QTest::keyClick(table(), Qt::Key_Up, Qt::AltModifier);
+        } else if (command == "delete the last") {
+            select(0, 0, 1, 1);
+            QTest::keyClick(table(), Qt::Key_End, Qt::ControlModifier);
+            QTest::keyClick(table(), Qt::Key_Delete);
         } else if (command == "paste into a block") {
             select(1, 1, 2, 2);
             pasteText("5");

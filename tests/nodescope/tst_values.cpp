@@ -70,6 +70,8 @@ private Q_SLOTS:
         QVERIFY(line->text().contains("0.33333334 0 0 1") && line->cursorPosition() == 0);
         Complaints::expect("This plugin does not support");
         m_panel->findChild<QPushButton *>("m_editButton")->click();
+        QApplication::processEvents();
+        QCOMPARE(edits("matrix").at(1)->selectedText(), QString("1"));
         QLineEdit *const element = edits("matrix").at(1 + 2); // behind the line of the whole value
         retype(element, "9");
         QTest::keyClick(element, Qt::Key_Escape);

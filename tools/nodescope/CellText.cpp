@@ -13,6 +13,15 @@ namespace
 constexpr QLatin1Char quote('"');
 constexpr QLatin1Char tab('\t');
 constexpr QLatin1Char newLine('\n');
+
+/// A comma without a space may be a decimal one, but not two of them.
+QStringList wordsOf(const QString &values)
+{
+    static const QRegularExpression twoCommas(QStringLiteral(",[^\\s,]+,\\S"));
+    static const QRegularExpression betweenAll(QStringLiteral("[,\\s]+"));
+    static const QRegularExpression between(QStringLiteral("(,?\\s)+|,$"));
+    return values.split(values.contains(twoCommas) ? betweenAll : between, Qt::SkipEmptyParts);
+}
 } // namespace
 
 QString CellText::written(QString cell)
@@ -55,16 +64,14 @@ QVector<QStringList> CellText::splitValues(const QString &text, int numbersInRow
 {
     static const QRegularExpression comment(QStringLiteral("#[^\n]*"));
     static const QRegularExpression bracketed(QStringLiteral("^\\s*[A-Za-z]*\\s*\\[([^\\[\\]]*)\\]\\s*$"));
-    static const QRegularExpression between(QStringLiteral("(,?\\s)+|,$")); // else it may be a decimal comma
     static const QRegularExpression number(QStringLiteral("^[-+]?(0[xX][0-9a-fA-F]+|[0-9.]+([eE][-+]?[0-9]+)?)$"));
     if (text.contains(tab))
         return {};
     const QString plain = QString(text).remove(comment);
     const QRegularExpressionMatch inBrackets = bracketed.match(plain);
-    const QString values = (inBrackets.hasMatch() ? inBrackets.captured(1) : plain).trimmed();
-    const QStringList words = values.split(between, Qt::SkipEmptyParts);
-    const bool areNumbers = std::all_of(words.begin(), words.end(),
-                                        [](const QString &word) { return number.match(word).hasMatch(); });
+    const QStringList words = wordsOf((inBrackets.hasMatch() ? inBrackets.captured(1) : plain).trimmed());
+    const bool areNumbers
+        = std::all_of(words.begin(), words.end(), [](const QString &word) { return number.match(word).hasMatch(); });
     if (!areNumbers || words.size() < 2 || words.size() % numbersInRow != 0)
         return {};
     QVector<QStringList> rows;

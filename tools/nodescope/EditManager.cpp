@@ -103,8 +103,11 @@ void EditManager::refresh()
     if (m_numbers)
         m_numbers->show(m_field);
     m_typing.keepValidators();
-    if (m_line)
-        m_shownLine = m_line->text();
+    if (!m_line)
+        return;
+    m_shownLine = m_line->text();
+    if (!m_line->hasFocus())
+        m_line->setCursorPosition(0); // a long text shows its start
 }
 
 void EditManager::letGo()

@@ -26,6 +26,7 @@
 #include <Inventor/fields/SoFieldContainer.h>
 #include <Inventor/nodes/SoNode.h>
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QDockWidget>
 #include <QDragEnterEvent>
@@ -45,6 +46,13 @@ namespace
 
 const QLatin1String geometryKey("geometry");
 const QLatin1String stateKey("state");
+
+/// How much larger texts are than where the sizes of the window were chosen.
+double fontScale()
+{
+    constexpr double usualSize = 12; // pixels
+    return QFontInfo(QApplication::font()).pixelSize() / usualSize;
+}
 
 QString droppedFile(const QMimeData *data)
 {
@@ -70,7 +78,8 @@ MainWindow::MainWindow(QWidget *parent)
     statusBar()->addWidget(m_messages, 1);
     setAcceptDrops(true);
     const int title = style()->pixelMetric(QStyle::PM_TitleBarHeight, nullptr, this);
-    resize(QSize(1200, 800).boundedTo(screen()->availableSize() - QSize(title, 2 * title))); // with its frame
+    resize((QSize(1200, 800) * fontScale())
+               .boundedTo(screen()->availableSize() - QSize(title, 2 * title))); // with its frame
 
     connect(m_document, &SceneDocument::opened, this, &MainWindow::showDocument);
     connect(m_document, &SceneDocument::modifiedChanged, this, &MainWindow::setWindowModified);
@@ -139,7 +148,8 @@ void MainWindow::createDocks()
     m_panel->setAccessibleName(tr("Fields of the selected node"));
     searched->setMinimumWidth(14 * fontMetrics().averageCharWidth());
     m_panel->setMinimumWidth(36 * fontMetrics().averageCharWidth());
-    m_room = new ViewRoom(*this, {{scene->objectName(), 280}, {fields->objectName(), 420}});
+    m_room = new ViewRoom(
+        *this, {{scene->objectName(), qRound(280 * fontScale())}, {fields->objectName(), qRound(420 * fontScale())}});
 }
 
 bool MainWindow::open(const QString &fileName)

@@ -101,7 +101,9 @@ void MainWindow::showContextMenu(QTreeWidgetItem *item)
         if (!origin.fileName.isEmpty())
             menu->addAction(tr("&Open %1").arg(origin.name), this, [this, origin] { open(origin.fileName); });
     }
-    menu->popup(QCursor::pos());
+    const QRect row = m_tree->visualItemRect(item);
+    const QPoint mouse = m_tree->viewport()->mapFromGlobal(QCursor::pos());
+    menu->popup(m_tree->viewport()->mapToGlobal(row.contains(mouse) ? mouse : row.center())); // asked for by key
 }
 
 void MainWindow::about()

@@ -68,6 +68,10 @@ void TableManager::setField(SoField *field)
         m_cells->beginSeries();
     if (field && m_table && EditorTable::isStandard(*editor()))
         m_form = m_table->columnCount() > 1 ? NumberForm::of(*field).component() : NumberForm::of(*field);
+    if (field && field->isOfType(SoMFColor::getClassTypeId())) { // whose table takes nothing else
+        m_form.least = 0;
+        m_form.most = 1;
+    }
 }
 
 void TableManager::refresh()

@@ -84,6 +84,7 @@ void ViewCamera::goHome(SoNode *root, const SbViewportRegion &viewport)
     if (path) {
         m_original = coinRef(static_cast<SoCamera *>(path->getTail()));
         m_camera = copyInWorldSpace(*m_original, path, viewport);
+        focusOn(root, viewport);
     } else {
         m_original.reset();
         m_camera = coinRef<SoCamera>(new SoPerspectiveCamera);
@@ -91,6 +92,17 @@ void ViewCamera::goHome(SoNode *root, const SbViewportRegion &viewport)
         viewAll(root, viewport);
     }
     m_up = nearestAxis(turned(*m_camera, cameraUp));
+}
+
+/// Few files say where their camera's focus is, about which the view turns: it is to lie in what is seen.
+void ViewCamera::focusOn(SoNode *root, const SbViewportRegion &viewport)
+{
+    SoGetBoundingBoxAction action(viewport);
+    action.apply(root);
+    const SbBox3f box = action.getBoundingBox();
+    const float depth = box.isEmpty() ? 0 : (box.getCenter() - m_camera->position.getValue()).dot(direction());
+    if (depth > 0 && !box.intersect(focus()))
+        m_camera->focalDistance = depth;
 }
 
 void ViewCamera::viewAll(SoNode *root, const SbViewportRegion &viewport)

@@ -51,6 +51,7 @@ public:
 
 private:
     float heightAngle() const;
+    void focusOn(SoNode *root, const SbViewportRegion &viewport);
     void fit(const SbBox3f &box, const SbViewportRegion &viewport);
 
     std::shared_ptr<SoCamera> m_camera;

@@ -14,6 +14,7 @@
 #include <QIntValidator>
 #include <QKeyEvent>
 #include <QSpinBox>
+#include <QToolTip>
 
 #include <algorithm>
 
@@ -160,8 +161,10 @@ void TypedNumber::mark(const QString &why)
     }
     m_why = why;
     m_control.setToolTip(why.isEmpty() ? m_formerTip : why);
-    if (why.isEmpty())
-        delete m_frame;
+    if (!why.isEmpty())
+        return;
+    delete m_frame;
+    QToolTip::hideText(); // which tells what was wrong
 }
 
 void TypedNumber::refuse(const QString &why)

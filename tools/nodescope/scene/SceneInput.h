@@ -23,7 +23,10 @@ public:
     SbBool read(SbName &name, SbBool isIdentifier) override { return tell(SoInput::read(name, isIdentifier)); }
     SbBool read(int &number) override { return tell(SoInput::read(number)); }
     SbBool read(float &number) override { return tell(SoInput::read(number)); }
-    SbBool readBinaryArray(float *numbers, int length) override { return tell(SoInput::readBinaryArray(numbers, length)); }
+    SbBool readBinaryArray(float *numbers, int length) override
+    {
+        return tell(SoInput::readBinaryArray(numbers, length));
+    }
 
 private:
     SbBool tell(SbBool isRead)

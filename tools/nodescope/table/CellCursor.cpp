@@ -85,9 +85,10 @@ bool CellCursor::closeGrid()
     return true;
 }
 
+/// Qt would add it to the selection while Ctrl is held.
 void CellCursor::choose(int row, int column)
 {
-    m_table.setCurrentCell(row, column);
+    m_table.setCurrentCell(row, column, QItemSelectionModel::ClearAndSelect);
     m_table.scrollTo(m_table.currentIndex());
 }
 

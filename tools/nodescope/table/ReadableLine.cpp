@@ -7,6 +7,7 @@
 
 #include <HbPopupWidget.h>
 
+#include <QApplication>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QPushButton>
@@ -27,15 +28,17 @@ QString shortened(const QString &text)
 }
 } // namespace
 
-ReadableLine::ReadableLine(HbPopupWidget &editor) : QObject(&editor), m_editor(editor)
+ReadableLine::ReadableLine(HbPopupWidget &editor)
+    : QObject(&editor), m_editor(editor), m_line(editor.findChild<QLineEdit *>(QStringLiteral("lineEdit")))
 {
-    auto *const line = editor.findChild<QLineEdit *>(QStringLiteral("lineEdit"));
+    QLineEdit *const line = m_line;
     line->setReadOnly(true);
     line->setEnabled(true);
     QPalette palette;
     palette.setBrush(QPalette::Base, palette.brush(QPalette::Window)); // it does not ask to be typed in
     line->setPalette(palette);
     line->installEventFilter(this);
+    editor.findChild<QFrame *>(QStringLiteral("m_popupFrame"))->installEventFilter(this);
     const auto showStart = [line] {
         if (!line->hasFocus())
             line->setCursorPosition(0);
@@ -47,8 +50,12 @@ ReadableLine::ReadableLine(HbPopupWidget &editor) : QObject(&editor), m_editor(e
     showStart();
 }
 
-bool ReadableLine::eventFilter(QObject *, QEvent *event)
+bool ReadableLine::eventFilter(QObject *watched, QEvent *event)
 {
+    if (event->type() == QEvent::Show && watched != m_line)
+        QMetaObject::invokeMethod(this, &ReadableLine::selectFirst, Qt::QueuedConnection); // once it has the focus
+    if (watched != m_line)
+        return false;
     bool isOpening = event->type() == QEvent::MouseButtonDblClick;
     if (event->type() == QEvent::KeyPress) {
         const int key = static_cast<QKeyEvent *>(event)->key();
@@ -57,4 +64,11 @@ bool ReadableLine::eventFilter(QObject *, QEvent *event)
     if (isOpening)
         m_editor.findChild<QPushButton *>(QStringLiteral("m_editButton"))->click();
     return isOpening;
+}
+
+/// What is typed takes the place of the number, as in the others.
+void ReadableLine::selectFirst()
+{
+    if (auto *const edit = qobject_cast<QLineEdit *>(QApplication::focusWidget()); edit && !edit->isModified())
+        edit->selectAll();
 }

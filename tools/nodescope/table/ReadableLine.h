@@ -10,7 +10,7 @@ class HbPopupWidget;
 class QLineEdit;
 
 /// Makes the line in which a popup editor shows its whole value one that can be read, scrolled and copied from. What
-/// would edit it opens the popup: a double click, Return, F2.
+/// would edit it opens the popup: a double click, Return, F2. There the first number is selected.
 class ReadableLine : public QObject
 {
 public:
@@ -20,7 +20,10 @@ public:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    void selectFirst();
+
     HbPopupWidget &m_editor;
+    QLineEdit *const m_line;
 };
 
 #endif

@@ -32,6 +32,9 @@ TableControls::TableControls(HbMFieldWidget &widget, HbMFieldTable &table, HbFie
     connect(keys, &TableKeys::deletePressed, this, &TableControls::deleteRows);
     connect(keys, &TableKeys::copyPressed, this, &TableControls::copyWanted);
     connect(keys, &TableKeys::pastePressed, this, &TableControls::pasteWanted);
+    const auto button = [&widget](const char *name) { return widget.findChild<QPushButton *>(QLatin1String(name)); };
+    connect(keys, &TableKeys::movePressed, this,
+            [up = button("m_upButton"), down = button("m_downButton")](int step) { (step < 0 ? up : down)->click(); });
     takeOver(widget, "m_addButton", &TableControls::addRow);
     takeOver(widget, "m_deleteButton", &TableControls::deleteRows);
 }
@@ -54,7 +57,7 @@ void TableControls::takeOver(const HbMFieldWidget &widget, const char *button, v
 void TableControls::choose(int row)
 {
     if (row < m_table.rowCount())
-        m_table.setCurrentCell(row, qMax(m_table.currentColumn(), 0));
+        m_table.setCurrentCell(row, qMax(m_table.currentColumn(), 0), QItemSelectionModel::ClearAndSelect);
 }
 
 /// Behind the current row; the new one is current then.

@@ -26,10 +26,19 @@ bool isText(const QKeyEvent &key)
     return !(key.modifiers() & commandKeys) && !text.isEmpty() && (text.at(0).isPrint() || text.at(0).isSurrogate());
 }
 
+/// By how many rows a key moves the current one.
+int moveOf(const QKeyEvent &key)
+{
+    const bool isAlt = (key.modifiers() & ~Qt::KeypadModifier) == Qt::AltModifier;
+    return !isAlt ? 0 : key.key() == Qt::Key_Up ? -1 : key.key() == Qt::Key_Down ? 1 : 0;
+}
+
 /// Whether the table wants a key that may be a shortcut of the window as well.
 bool isWanted(const QKeyEvent &key)
 {
     if (isText(key) || isCopy(key) || key.matches(QKeySequence::Paste) || key.matches(QKeySequence::SelectAll))
+        return true;
+    if (moveOf(key) != 0)
         return true;
     if (key.modifiers() & (Qt::AltModifier | Qt::MetaModifier))
         return false;
@@ -87,6 +96,10 @@ bool TableKeys::press(QKeyEvent &key)
     }
     if (key.matches(QKeySequence::Paste)) {
         Q_EMIT pastePressed();
+        return true;
+    }
+    if (const int step = moveOf(key)) {
+        Q_EMIT movePressed(step);
         return true;
     }
     switch (key.key()) {

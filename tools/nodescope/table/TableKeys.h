@@ -12,7 +12,7 @@ class QKeyEvent;
 
 /**
  * The keys of a table, as spreadsheets have them: what can be text starts a cell's value, Insert and Delete are for
- * rows, Return and F2 open the cell, Tab goes to the right.
+ * rows, Alt with Up and Down moves one, Return and F2 open the cell, Tab goes to the right.
  *
  * It sees them before the table, which would take "+" and "-" for rows and let cells be selected with Shift only.
  */
@@ -29,6 +29,7 @@ public:
 Q_SIGNALS:
     void addPressed();
     void deletePressed();
+    void movePressed(int step);
     void copyPressed();
     void pastePressed();
 
