@@ -126,9 +126,15 @@ private Q_SLOTS:
         opened("files that are missing", inventor + "File { name \"no.iv\" } Texture2 { filename \"no.png\" }",
                "no.iv");
         opened("an inline that is missing", vrml + "Inline { url \"no.wrl\" }", "no.wrl");
+        const auto own = [this] { return "\"" + QByteArray::number(m_files) + "\""; }; // the name of the next file
+        opened("a file that names itself", inventor + "Cube { } File { name " + own() + " }", "names itself");
+        opened("an inline that names itself", vrml + "Inline { url " + own() + " }", "names itself");
+        opened("a file that is a pipe", inventor + "File { name \"pipe\" }", "pipe");
+        opened("a file that is nested too deep", inventor + "File { name \"" + write(deep).toUtf8() + "\" }", "levels");
         refused("no number", inventor + "Cone { height nan }", "height");
         opened("a number without an end", inventor + "Cone { height 1e999 }");
         refused("an image of no size", inventor + "Texture2 { image -1 -5 9 1 2 }", "image");
+        refused("an image larger than the memory", inventor + "Texture2 { image 32000 32000 4 1 2 }", "memory");
         opened("indices of nothing", inventor + "IndexedFaceSet { coordIndex [ 99999999, -7, 2147483647 ] }");
     }
 

@@ -24,30 +24,13 @@
 
 #include <cerrno>
 #include <cstring>
+#include <new>
 
 namespace
 {
 QString tr(const char *text)
 {
     return QCoreApplication::translate("SceneFile", text);
-}
-
-QString whyUnreadable(const QString &fileName, QByteArray *start)
-{
-    const QString name = QDir::toNativeSeparators(fileName);
-    if (QFileInfo(fileName).isDir())
-        return tr("%1 is a directory").arg(name);
-    const FileState state(fileName);
-    if (state.exists() && !state.isRegular()) // whose end may never come
-        return tr("%1 is a pipe or a device; what comes through a pipe is opened as standard input, named \"-\"")
-            .arg(name);
-    QFile file(fileName);
-    if (!file.open(QIODevice::ReadOnly))
-        return tr("%1: %2").arg(name, file.errorString());
-    *start = file.peek(2);
-    if (start->isEmpty())
-        return tr("%1 is empty").arg(name);
-    return whyUnsafe(fileName);
 }
 
 /// Coin takes what begins no node for the end.
@@ -58,7 +41,7 @@ void tellOfTheRest(SoInput *input)
 }
 
 bool readTopLevelNodes(SoInput *input, SoGroup *root)
-{
+try {
     for (;;) {
         SoNode *node = nullptr;
         if (!SoDB::read(input, node))
@@ -69,13 +52,22 @@ bool readTopLevelNodes(SoInput *input, SoGroup *root)
         }
         root->addChild(node);
     }
+} catch (const std::bad_alloc &) { // of an image, say, whose size is told before its pixels
+    SoReadError::post(input, "%s", tr("the memory is too small for it").toUtf8().constData());
+    return false;
 }
 
-SceneFormat formatOf(SoInput &input, const QByteArray &start)
+bool isPacked(const QString &fileName)
+{
+    QFile file(fileName);
+    return file.open(QIODevice::ReadOnly) && file.read(2) == "\x1f\x8b";
+}
+
+SceneFormat formatOf(SoInput &input, const QString &fileName)
 {
     SceneFormat format;
     format.binary = input.isBinary();
-    format.gzip = start == QByteArray("\x1f\x8b");
+    format.gzip = isPacked(fileName);
     if (input.isFileVRML1() || input.isFileVRML2())
         format.header = input.getHeader().getString();
     return format;
@@ -122,8 +114,7 @@ SaveLosses lossesOf(const QString &fileName, SoNode *root, SceneFormat format)
 SceneFile readRegularFile(const QString &fileName)
 {
     SceneFile file;
-    QByteArray start;
-    const QString problem = whyUnreadable(fileName, &start);
+    const QString problem = whyUnreadable(fileName);
     if (!problem.isEmpty()) {
         file.messages = QStringList{problem};
         return file;
@@ -142,7 +133,7 @@ SceneFile readRegularFile(const QString &fileName)
     }
     if (read) {
         file.root = root;
-        file.format = formatOf(input, start);
+        file.format = formatOf(input, fileName);
         file.losses = lossesOf(fileName, root.get(), file.format);
     }
     file.messages = coin.texts();
