@@ -5,16 +5,21 @@
 
 #include "tools/nodescope/CoinMessages.h"
 #include "tools/nodescope/CoinSetup.h"
+#include "tools/nodescope/FieldLength.h"
 #include "tools/nodescope/FieldPanel.h"
 #include "tools/nodescope/SceneDocument.h"
 #include "tools/nodescope/ScenePath.h"
 #include "tools/nodescope/SceneTree.h"
 #include "tools/nodescope/fields/Containment.h"
+#include "tools/nodescope/fields/FieldClipboard.h"
 #include "tools/nodescope/scene/FileReferences.h"
 #include "tools/nodescope/tree/SceneSearch.h"
 
 #include <QProcess>
 #include <QTemporaryDir>
+
+#include <Inventor/nodes/SoIndexedFaceSet.h>
+#include <Inventor/nodes/SoSeparator.h>
 
 #include <sys/stat.h>
 
@@ -163,6 +168,22 @@ private Q_SLOTS:
         QCOMPARE(document.root()->getNumChildren(), topLevel);
         QVERIFY(document.save(second, &messages));
         QCOMPARE(contentOf(second), contentOf(first));
+    }
+
+    /// As a plug-in may leave it.
+    void walksEndWhereANodeContainsItself()
+    {
+        const Ref<SoSeparator> root;
+        auto *const shape = new SoIndexedFaceSet;
+        auto *const loop = new SoSeparator;
+        root->addChild(shape);
+        shape->vertexProperty = loop;
+        loop->addChild(loop);
+        lookAround(root);
+        FieldClipboard::copy(shape->vertexProperty);
+        QVERIFY(containsItself(root) && !isLong(shape->vertexProperty));
+        loop->removeAllChildren();
+        QVERIFY(!containsItself(root));
     }
 
 private:
