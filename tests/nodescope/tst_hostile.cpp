@@ -5,16 +5,21 @@
 
 #include "tools/nodescope/CoinMessages.h"
 #include "tools/nodescope/CoinSetup.h"
+#include "tools/nodescope/FieldLength.h"
 #include "tools/nodescope/FieldPanel.h"
 #include "tools/nodescope/SceneDocument.h"
 #include "tools/nodescope/ScenePath.h"
 #include "tools/nodescope/SceneTree.h"
 #include "tools/nodescope/fields/Containment.h"
+#include "tools/nodescope/fields/FieldClipboard.h"
 #include "tools/nodescope/scene/FileReferences.h"
 #include "tools/nodescope/tree/SceneSearch.h"
 
 #include <QProcess>
 #include <QTemporaryDir>
+
+#include <Inventor/nodes/SoIndexedFaceSet.h>
+#include <Inventor/nodes/SoSeparator.h>
 
 #include <sys/stat.h>
 
@@ -126,9 +131,15 @@ private Q_SLOTS:
         opened("files that are missing", inventor + "File { name \"no.iv\" } Texture2 { filename \"no.png\" }",
                "no.iv");
         opened("an inline that is missing", vrml + "Inline { url \"no.wrl\" }", "no.wrl");
+        const auto own = [this] { return "\"" + QByteArray::number(m_files) + "\""; }; // the name of the next file
+        opened("a file that names itself", inventor + "Cube { } File { name " + own() + " }", "names itself");
+        opened("an inline that names itself", vrml + "Inline { url " + own() + " }", "names itself");
+        opened("a file that is a pipe", inventor + "File { name \"pipe\" }", "pipe");
+        opened("a file that is nested too deep", inventor + "File { name \"" + write(deep).toUtf8() + "\" }", "levels");
         refused("no number", inventor + "Cone { height nan }", "height");
         opened("a number without an end", inventor + "Cone { height 1e999 }");
         refused("an image of no size", inventor + "Texture2 { image -1 -5 9 1 2 }", "image");
+        refused("an image larger than the memory", inventor + "DEF T Texture2 { image 32000 32000 4 1 2 }", "memory");
         opened("indices of nothing", inventor + "IndexedFaceSet { coordIndex [ 99999999, -7, 2147483647 ] }");
     }
 
@@ -157,6 +168,22 @@ private Q_SLOTS:
         QCOMPARE(document.root()->getNumChildren(), topLevel);
         QVERIFY(document.save(second, &messages));
         QCOMPARE(contentOf(second), contentOf(first));
+    }
+
+    /// As a plug-in may leave it.
+    void walksEndWhereANodeContainsItself()
+    {
+        const Ref<SoSeparator> root;
+        auto *const shape = new SoIndexedFaceSet;
+        auto *const loop = new SoSeparator;
+        root->addChild(shape);
+        shape->vertexProperty = loop;
+        loop->addChild(loop);
+        lookAround(root);
+        FieldClipboard::copy(shape->vertexProperty);
+        QVERIFY(containsItself(root) && !isLong(shape->vertexProperty));
+        loop->removeAllChildren();
+        QVERIFY(!containsItself(root));
     }
 
 private:

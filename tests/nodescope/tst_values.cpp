@@ -10,14 +10,15 @@
 
 #include <QClipboard>
 
+#include <Inventor/VRMLnodes/SoVRMLGroup.h>
 #include <Inventor/fields/SoFields.h>
+#include <Inventor/nodes/SoCube.h>
 #include <Inventor/nodes/SoCylinder.h>
 #include <Inventor/nodes/SoDirectionalLight.h>
 #include <Inventor/nodes/SoDrawStyle.h>
 #include <Inventor/nodes/SoMatrixTransform.h>
 #include <Inventor/nodes/SoSceneTexture2.h>
 #include <Inventor/nodes/SoSeparator.h>
-#include <Inventor/nodes/SoShaderProgram.h>
 #include <Inventor/nodes/SoTexture2.h>
 #include <Inventor/nodes/SoTransform.h>
 
@@ -173,10 +174,11 @@ private Q_SLOTS:
     {
         const Ref<SoSeparator> circle;
         auto *const texture = new SoSceneTexture2;
-        auto *const program = new SoShaderProgram;
+        auto *const group = new SoVRMLGroup;
+        auto *const cube = new SoCube;
         circle->addChild(texture);
-        circle->addChild(program);
-        program->shaderObject.setNum(1);
+        circle->addChild(group);
+        group->addChild(cube);
         const auto rowOf = [this](const SoField &field) {
             const auto rows = m_panel->findChildren<FieldRow *>();
             return *std::find_if(rows.begin(), rows.end(), [&](const FieldRow *row) { return row->field() == &field; });
@@ -192,15 +194,15 @@ private Q_SLOTS:
             rowOf(texture->scene)->pasteValue();
             FieldClipboard::copy(copied);
             rowOf(texture->scene)->pasteValue();
-            m_panel->setNode(program);
-            auto *const table = m_panel->editorOf("shaderObject")->findChild<HbMFieldTable *>();
+            m_panel->setNode(group);
+            auto *const table = m_panel->editorOf("children")->findChild<HbMFieldTable *>();
             enter(openCell(table, 0, 0), text);
             QCoreApplication::processEvents();
             QApplication::clipboard()->setText(text);
             QTest::keyClick(table, Qt::Key_V, Qt::ControlModifier);
             QVERIFY2(m_messages.size() == 5 && m_messages.filter("itself").size() == 5,
                      qPrintable(m_messages.join('\n')));
-            QVERIFY(!texture->scene.getValue() && !program->shaderObject[0] && m_stack->count() == 0);
+            QVERIFY(!texture->scene.getValue() && group->children[0] == cube && m_stack->count() == 0);
             m_messages.clear();
         }
         m_panel->setNode(texture);

@@ -3,6 +3,7 @@
 
 #include "CoinSetup.h"
 
+#include "NamedFiles.h"
 #include "SceneCameras.h"
 #include "TickingRotor.h"
 #include "ViewPickAction.h"
@@ -27,4 +28,5 @@ void setUpCoin(bool allowNodeLibraries)
     ViewPickAction::initClass();
     passOverSceneCameras();
     TickingRotor::replaceRotor();
+    guardNamedFiles();
 }

@@ -25,30 +25,13 @@
 
 #include <cerrno>
 #include <cstring>
+#include <new>
 
 namespace
 {
 QString tr(const char *text)
 {
     return QCoreApplication::translate("SceneFile", text);
-}
-
-QString whyUnreadable(const QString &fileName, QByteArray *start)
-{
-    const QString name = QDir::toNativeSeparators(fileName);
-    if (QFileInfo(fileName).isDir())
-        return tr("%1 is a directory").arg(name);
-    const FileState state(fileName);
-    if (state.exists() && !state.isRegular()) // whose end may never come
-        return tr("%1 is a pipe or a device; what comes through a pipe is opened as standard input, named \"-\"")
-            .arg(name);
-    QFile file(fileName);
-    if (!file.open(QIODevice::ReadOnly))
-        return tr("%1: %2").arg(name, file.errorString());
-    *start = file.peek(2);
-    if (start->isEmpty())
-        return tr("%1 is empty").arg(name);
-    return whyUnsafe(fileName);
 }
 
 /// Coin takes what begins no node for the end.
@@ -59,7 +42,7 @@ void tellOfTheRest(SoInput *input)
 }
 
 bool readTopLevelNodes(SoInput *input, SoGroup *root)
-{
+try {
     for (;;) {
         SoNode *node = nullptr;
         if (!SoDB::read(input, node))
@@ -70,18 +53,22 @@ bool readTopLevelNodes(SoInput *input, SoGroup *root)
         }
         root->addChild(node);
     }
+} catch (const std::bad_alloc &) { // of an image, say, whose size is told before its pixels
+    SoReadError::post(input, "%s", tr("the memory is too small for it").toUtf8().constData());
+    return false;
 }
 
-bool isPacked(const QByteArray &start)
+bool isPacked(const QString &fileName)
 {
-    return start == QByteArray("\x1f\x8b");
+    QFile file(fileName);
+    return file.open(QIODevice::ReadOnly) && file.read(2) == "\x1f\x8b";
 }
 
-SceneFormat formatOf(SoInput &input, const QByteArray &start)
+SceneFormat formatOf(SoInput &input, const QString &fileName)
 {
     SceneFormat format;
     format.binary = input.isBinary();
-    format.gzip = isPacked(start);
+    format.gzip = isPacked(fileName);
     if (input.isFileVRML1() || input.isFileVRML2())
         format.header = input.getHeader().getString();
     return format;
@@ -128,15 +115,14 @@ SaveLosses lossesOf(const QString &fileName, SoNode *root, SceneFormat format)
 SceneFile readRegularFile(const QString &fileName, const ReadingProgress &progress)
 {
     SceneFile file;
-    QByteArray start;
-    const QString problem = whyUnreadable(fileName, &start);
+    const QString problem = whyUnreadable(fileName);
     if (!problem.isEmpty()) {
         file.messages = QStringList{problem};
         return file;
     }
 
     const CoinMessages coin;
-    const qint64 size = isPacked(start) ? 0 : QFileInfo(fileName).size();
+    const qint64 size = isPacked(fileName) ? 0 : QFileInfo(fileName).size();
     SceneInput input(size, progress);
     const std::shared_ptr<SoSeparator> root = coinRef<SoSeparator>(new SceneRoot);
     const bool opened = input.openFile(QFile::encodeName(fileName).constData());
@@ -149,7 +135,7 @@ SceneFile readRegularFile(const QString &fileName, const ReadingProgress &progre
     }
     if (read) {
         file.root = root;
-        file.format = formatOf(input, start);
+        file.format = formatOf(input, fileName);
         file.losses = lossesOf(fileName, root.get(), file.format);
     }
     file.messages = coin.texts();

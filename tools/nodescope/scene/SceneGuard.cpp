@@ -3,11 +3,14 @@
 
 #include "SceneGuard.h"
 
+#include "FileState.h"
+
 #include "coin/ReaderGuard.h"
 
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 
 #include <array>
 #include <memory>
@@ -33,7 +36,6 @@ QString sentence(ReaderGuard::Danger danger)
     }
     return {};
 }
-} // namespace
 
 QString whyUnsafe(const QString &fileName)
 {
@@ -53,4 +55,21 @@ QString whyUnsafe(const QString &fileName)
     for (; length > 0 && danger == ReaderGuard::Danger::None; length = gzread(file.get(), block.data(), block.size()))
         danger = guard.feed(block.data(), length);
     return danger == ReaderGuard::Danger::None ? QString() : sentence(danger).arg(QDir::toNativeSeparators(fileName));
+}
+} // namespace
+
+QString whyUnreadable(const QString &fileName)
+{
+    const auto tr = [](const char *text) { return QCoreApplication::translate("SceneGuard", text); };
+    const QString name = QDir::toNativeSeparators(fileName);
+    if (QFileInfo(fileName).isDir())
+        return tr("%1 is a directory").arg(name);
+    const FileState state(fileName);
+    if (state.exists() && !state.isRegular()) // whose end may never come
+        return tr("%1 is a pipe or a device; what comes through a pipe is opened as standard input, named \"-\"")
+            .arg(name);
+    QFile file(fileName);
+    if (!file.open(QIODevice::ReadOnly))
+        return tr("%1: %2").arg(name, file.errorString());
+    return file.peek(1).isEmpty() ? tr("%1 is empty").arg(name) : whyUnsafe(fileName);
 }

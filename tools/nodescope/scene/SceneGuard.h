@@ -6,8 +6,8 @@
 
 #include <QString>
 
-/// Why Coin's reader would not survive a file, in one sentence; empty where it would. Looks into packed files; binary
-/// ones are not looked into.
-QString whyUnsafe(const QString &fileName);
+/// Why a file cannot be given to Coin's reader, or the reader would not survive it, in one sentence; empty where it
+/// can. Looks into packed files; binary ones are not looked into.
+QString whyUnreadable(const QString &fileName);
 
 #endif
