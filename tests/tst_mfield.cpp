@@ -342,6 +342,19 @@ private Q_SLOTS:
         QCOMPARE(listening.takeLog(), QStringList()); // there is nothing to tell of
     }
 
+    void pressedButtonReportsToNoDyingEditor()
+    {
+        RecordingManager manager;
+        SoMFVec4f field;
+        auto editor = std::make_unique<HbMFVec4fWidget>(&manager, nullptr, nullptr, Qt::WindowFlags());
+        present(*editor, &field);
+        auto *const ignore = editor->findChild<QPushButton *>("m_ignoreButton");
+        ignore->setFocus();
+        QTest::keyPress(ignore, Qt::Key_Space);
+        editor.reset();
+        QCOMPARE(manager.takeLog(), QStringList());
+    }
+
     void cellsShowADerivedClassesTexts()
     {
         const auto shown = [](auto &&editor, const char *type, const char *values) {

@@ -176,6 +176,26 @@ private Q_SLOTS:
         }
     }
 
+    void ignoreUndoneInDragLeavesNoTrace()
+    {
+        const QByteArray before = saved(*m_cone);
+        for (const auto &[moved, movesOn] : {std::pair(0, false), {30, false}, {30, true}}) {
+            m_panel->editorOf("height")->findChild<QPushButton *>("m_ignoreButton")->click();
+            const QPoint at = handleOf(slider());
+            QTest::mousePress(slider(), Qt::LeftButton, {}, at);
+            dragTo(slider(), at + QPoint(moved, 0));
+            m_stack->undo();
+            QCOMPARE(saved(*m_cone), before);
+            if (movesOn)
+                dragTo(slider(), at + QPoint(2 * moved, 0));
+            QTest::mouseRelease(slider(), Qt::LeftButton, {}, at + QPoint((movesOn ? 2 : 1) * moved, 0));
+            QCOMPARE(m_stack->canUndo(), movesOn);
+            m_stack->setIndex(0);
+            QCOMPARE(saved(*m_cone), before);
+            QApplication::processEvents();
+        }
+    }
+
     void escapeEndsADragWithTheBoxOff()
     {
         coneOfOddHeight();

@@ -176,6 +176,25 @@ private Q_SLOTS:
         QCOMPARE(saved(material), before);
     }
 
+    void ignoreUndoneInDragLeavesNoTrace()
+    {
+        const Ref<SoMaterial> material;
+        m_panel->setNode(material);
+        const QByteArray before = saved(material);
+        openCell(control<HbMFieldTable>("Material.shininess"), 0, 0);
+        QCoreApplication::processEvents();
+        auto *const slider = control<HbMFieldTable>("Material.shininess")->findChild<QSlider *>();
+        for (const int moved : {0, 30}) {
+            m_panel->editorOf("shininess")->findChild<QPushButton *>("m_ignoreButton")->click();
+            slider->setSliderDown(true);
+            slider->setSliderPosition(slider->value() + moved);
+            m_stack->undo();
+            QCOMPARE(saved(material), before);
+            slider->setSliderDown(false);
+            QCOMPARE(saved(material), before);
+        }
+    }
+
     void retypedTextLeavesTheValue()
     {
         const Ref<SoMaterial> material;

@@ -320,7 +320,17 @@ void EditManager::slide(const HbSlider &)
 
 bool EditManager::isAsSlid() const
 {
-    return !m_field || m_slid->isSameValue(FieldSnapshot(*m_field));
+    return !m_field || *m_slid == FieldSnapshot(*m_field);
+}
+
+void EditManager::dropSlid()
+{
+    const FieldSnapshot now(*m_field);
+    if (!now.isSameValue(*m_slid))
+        return;
+    m_before->restore(*m_field);
+    m_field->setIgnored(now.isIgnored());
+    m_field->setDefault(now.isDefault());
 }
 
 void EditManager::putBack(HbSlider &)

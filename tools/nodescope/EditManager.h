@@ -91,6 +91,7 @@ protected:
     bool beginSlide(const HbSlider &slider) override;
     void slide(const HbSlider &slider) override;
     bool isAsSlid() const override;
+    void dropSlid() override;
     void putBack(HbSlider &slider) override;
     void endSlide(int series) override;
 

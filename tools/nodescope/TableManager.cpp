@@ -319,7 +319,7 @@ bool TableManager::beginSlide(const HbSlider &slider)
         return false;
     m_slid.row = row;
     m_slid.before = m_slid.after = FieldRows::copy(*rows(), row, 1);
-    m_wasDefault = rows()->isDefault();
+    m_wasDefault = m_isSlidDefault = rows()->isDefault();
     return true;
 }
 
@@ -327,18 +327,34 @@ void TableManager::slide(const HbSlider &slider)
 {
     editor()->set1Value(m_slid.row, 0, slider.getText());
     m_slid.after = FieldRows::copy(*rows(), m_slid.row, 1);
+    m_isSlidDefault = rows()->isDefault();
+}
+
+bool TableManager::holdsSlid() const
+{
+    return FieldRows::areSame(*m_slid.after, *FieldRows::copy(*rows(), m_slid.row, 1));
 }
 
 bool TableManager::isAsSlid() const
 {
-    return !rows() || FieldRows::areSame(*m_slid.after, *FieldRows::copy(*rows(), m_slid.row, 1));
+    return !rows() || (m_isSlidDefault == bool(rows()->isDefault()) && holdsSlid());
+}
+
+void TableManager::dropSlid()
+{
+    if (!holdsSlid())
+        return;
+    const bool isDefault = rows()->isDefault();
+    FieldRows::replace(*rows(), m_slid.row, 1, *m_slid.before);
+    rows()->setDefault(isDefault);
 }
 
 void TableManager::putBack(HbSlider &slider)
 {
-    if (!isAsSlid() || !FieldRows::areSame(*m_slid.after, *m_slid.before))
+    if (!holdsSlid() || !FieldRows::areSame(*m_slid.after, *m_slid.before))
         FieldRows::replace(*rows(), m_slid.row, 1, *m_slid.before);
     m_slid.after = m_slid.before;
+    m_isSlidDefault = m_wasDefault;
     rows()->setDefault(m_wasDefault);
     const QString text = static_cast<HbMFieldWidget *>(editor())->getFieldValue(m_slid.row, 0);
     if (auto *const real = dynamic_cast<HbRealSlider *>(&slider))

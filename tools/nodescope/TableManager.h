@@ -47,6 +47,7 @@ protected:
     bool beginSlide(const HbSlider &slider) override;
     void slide(const HbSlider &slider) override;
     bool isAsSlid() const override;
+    void dropSlid() override;
     void putBack(HbSlider &slider) override;
     void endSlide(int series) override;
 
@@ -54,6 +55,7 @@ private:
     SoMField *rows() const;
     bool mayEdit();
     int rowOf(const HbSlider &slider) const;
+    bool holdsSlid() const;
     bool isShown(int row, const QString &shown, const QString &text) const;
     void editRow(int row, std::shared_ptr<SoMField> before, bool wasDefault, const std::function<void()> &write);
     void record(std::vector<RowsChange> changes, bool wasDefault, int series);
@@ -77,6 +79,7 @@ private:
     int m_count = 0; ///< of the values, when they were last shown
     RowsChange m_slid{-1, {}, {}}; ///< the row before a slider in it moved, and what that left there
     bool m_wasDefault = false; ///< before
+    bool m_isSlidDefault = false; ///< after
     NumberForm m_form; ///< of what is typed in a cell
     bool m_isEntering = false; ///< what was typed in a grid
 };

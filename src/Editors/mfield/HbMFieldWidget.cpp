@@ -89,7 +89,11 @@ HbMFieldWidget::HbMFieldWidget(const char *fieldType, HbFieldEditorCommandManage
 
 HbMFieldWidget::~HbMFieldWidget()
 {
-    delete m_table; // first: a cell editor that has the focus would report to an owner that is half gone
+    // a control that has the focus would report to an owner that is half gone
+    const auto children = findChildren<QObject *>();
+    for (QObject *const child : children)
+        child->disconnect(this);
+    delete m_table; // whose cell editors report by themselves
 }
 
 void HbMFieldWidget::createButtons()

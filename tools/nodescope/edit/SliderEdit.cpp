@@ -210,7 +210,10 @@ void SliderEdit::cancel()
 /// What is undone in the middle of a drag makes the drag start from there.
 void SliderEdit::stackMoved()
 {
-    if (isHeld() && m_handle && !m_target.isAsSlid() && !begin())
+    if (!isHeld() || !m_handle || m_target.isAsSlid())
+        return;
+    m_target.dropSlid();
+    if (!begin())
         abandon();
 }
 

@@ -30,8 +30,10 @@ public:
     virtual bool beginSlide(const HbSlider &slider) = 0;
     /// Writes what the slider shows.
     virtual void slide(const HbSlider &slider) = 0;
-    /// Whether the value is the one that was kept or written last.
+    /// Whether value and flags are those that were kept or written last.
     virtual bool isAsSlid() const = 0;
+    /// Where the value is still the written one, gives the field the one that was kept, and leaves its flags.
+    virtual void dropSlid() = 0;
     /// Gives the field the value that was kept, to the bit, and the slider the text.
     virtual void putBack(HbSlider &slider) = 0;
     /// Makes one step of the way from the kept value to the present one. The slider may be dead.
