@@ -4,6 +4,7 @@
 #include "CoinSetup.h"
 
 #include "SceneCameras.h"
+#include "ShapeGuard.h"
 #include "TickingRotor.h"
 #include "ViewPickAction.h"
 #include "ViewRenderAction.h"
@@ -26,5 +27,6 @@ void setUpCoin(bool allowNodeLibraries)
     ViewRenderAction::initClass();
     ViewPickAction::initClass();
     passOverSceneCameras();
+    ShapeGuard::guardShapes();
     TickingRotor::replaceRotor();
 }

@@ -8,6 +8,7 @@
 #include "NodesInFields.h"
 #include "SceneItem.h"
 #include "SceneSearch.h"
+#include "ShapeGuard.h"
 
 #include <Inventor/nodes/SoNode.h>
 
@@ -17,6 +18,7 @@
 #include <QScrollBar>
 
 #include <algorithm>
+#include <utility>
 
 SceneTree::SceneTree(QWidget *parent) : HbGUITreeviewManagement(parent)
 {
@@ -183,6 +185,12 @@ void SceneTree::countPlaces() const
                 open.push_back(child);
         }
     }
+}
+
+void SceneTree::showUndrawn()
+{
+    if (std::exchange(m_undrawnChanges, ShapeGuard::changes()) != ShapeGuard::changes())
+        viewport()->update();
 }
 
 void SceneTree::contextMenuEvent(QContextMenuEvent *event)
