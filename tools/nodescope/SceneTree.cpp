@@ -4,6 +4,7 @@
 #include "SceneTree.h"
 
 #include "CoinRef.h"
+#include "IndexCheck.h"
 #include "NodeOrigin.h"
 #include "NodesInFields.h"
 #include "SceneItem.h"
@@ -95,6 +96,7 @@ void SceneTree::scrollTo(const QModelIndex &index, ScrollHint hint)
 SceneTree::~SceneTree()
 {
     NodeOrigin::setScene(nullptr);
+    IndexCheck::setScene(nullptr);
 }
 
 void SceneTree::setScene(SoNode *root)
@@ -106,6 +108,7 @@ void SceneTree::setScene(SoNode *root)
     m_watch.watch(root);
     header()->resizeSection(SceneItem::Type, header()->sectionSizeHint(SceneItem::Type));
     NodeOrigin::setScene(root);
+    IndexCheck::setScene(root);
     if (root)
         matchChildren(invisibleRootItem(), childrenOf(root));
     if (topLevelItemCount() == 1)
@@ -215,6 +218,7 @@ void SceneTree::follow()
     time.start();
     m_places.clear();
     NodeOrigin::setScene(m_root.get());
+    IndexCheck::setScene(m_root.get());
     refreshBranch(invisibleRootItem(), m_root.get());
     viewport()->update();
     m_follow.setInterval(static_cast<int>(10 * time.elapsed())); // so that a moving scene leaves time for the user

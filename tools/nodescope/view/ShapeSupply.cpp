@@ -4,7 +4,7 @@
 #include "ShapeSupply.h"
 
 #include <Inventor/VRMLnodes/SoVRMLGeometry.h>
-#include <Inventor/actions/SoGLRenderAction.h>
+#include <Inventor/actions/SoRayPickAction.h>
 #include <Inventor/elements/SoCoordinateElement.h>
 #include <Inventor/elements/SoLazyElement.h>
 #include <Inventor/elements/SoMultiTextureCoordinateElement.h>
@@ -95,7 +95,7 @@ ShapeSupply ShapeSupply::of(SoAction &action, SoShape &shape)
     if (shape.isOfType(SoVRMLGeometry::getClassTypeId()))
         return ofVrml(shape);
     SoState &state = *action.getState();
-    const bool isDrawn = action.isOfType(SoGLRenderAction::getClassTypeId());
+    const bool isDrawn = !action.isOfType(SoRayPickAction::getClassTypeId());
     SoNode *const own = static_cast<SoVertexShape &>(shape).vertexProperty.getValue();
     if (!own)
         return inState(state, isDrawn);
