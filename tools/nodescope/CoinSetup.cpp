@@ -5,6 +5,7 @@
 
 #include "NamedFiles.h"
 #include "SceneCameras.h"
+#include "ShapeGuard.h"
 #include "TickingRotor.h"
 #include "ViewPickAction.h"
 #include "ViewRenderAction.h"
@@ -27,6 +28,7 @@ void setUpCoin(bool allowNodeLibraries)
     ViewRenderAction::initClass();
     ViewPickAction::initClass();
     passOverSceneCameras();
+    ShapeGuard::guardShapes();
     TickingRotor::replaceRotor();
     guardNamedFiles();
 }

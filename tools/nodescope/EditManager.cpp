@@ -9,6 +9,7 @@
 #include "FieldCommand.h"
 #include "FieldText.h"
 #include "IgnoreCommand.h"
+#include "IndexCheck.h"
 #include "KeptImages.h"
 #include "KeptSelection.h"
 #include "MaskTicks.h"
@@ -185,7 +186,24 @@ void EditManager::record(const FieldSnapshot &before, int series, const std::vec
     }
     auto command = std::make_unique<FieldCommand>(*m_field, before, after, series);
     command->setImagesBefore(images);
-    m_stack->push(command.release());
+    push(std::move(command));
+}
+
+/// What would end the program when it is drawn is taken back, unless it was no better before.
+void EditManager::push(std::unique_ptr<QUndoCommand> command)
+{
+    const QString fault = IndexCheck::faultOf(*m_field);
+    if (!fault.isEmpty()) {
+        command->redo(); // the first one, which does nothing
+        command->undo();
+    }
+    if (fault.isEmpty() || !IndexCheck::faultOf(*m_field).isEmpty()) {
+        m_stack->push(command.release());
+        return;
+    }
+    dropTyped(); // it would be entered once more when its edit closes
+    refresh();
+    Q_EMIT message(tr("%1 is kept as it was: %2.").arg(FieldText::qualifiedName(*m_field), fault));
 }
 
 void EditManager::sfieldSetValue(SbString *previousData)
@@ -268,7 +286,7 @@ void EditManager::fieldSetDefaultValue()
     }
     auto command = std::make_unique<FieldCommand>(*m_field, before, *fresh, FieldCommand::noSeries);
     command->setImagesBefore(images);
-    m_stack->push(command.release());
+    push(std::move(command));
     refresh();
 }
 

@@ -17,6 +17,7 @@
 class HbFieldEditors;
 class MaskTicks;
 class QLineEdit;
+class QUndoCommand;
 class QUndoStack;
 class ShownNumbers;
 class WriteWatch;
@@ -78,10 +79,14 @@ protected:
     HbFieldEditors *editor() const { return m_editor; }
     SoField *field() const { return m_field; }
     QUndoStack *stack() const { return m_stack; }
+    /// Makes a step of what is done already, or takes it back and says why.
+    void push(std::unique_ptr<QUndoCommand> command);
     /// Where the field cannot be edited: says why.
     bool refuse();
     /// Why the field does not keep what was written to it, in one sentence; empty where it does.
     QString refusal(const WriteWatch &watch) const;
+    /// Forgets what stands in an edit that is open for a while.
+    virtual void dropTyped() { }
     TypedNumbers &typing() { return m_typing; }
     /// Of the commands that an edit makes.
     int editSeries() const { return m_editSeries; }

@@ -122,6 +122,7 @@ void MainWindow::createCentre()
     m_view = new SceneView(this);
     m_centre->addWidget(m_view);
     connect(m_view, &SceneView::picked, m_tree, &SceneTree::select);
+    connect(m_view, &SceneView::painted, m_tree, &SceneTree::showUndrawn);
 }
 
 void MainWindow::createDocks()

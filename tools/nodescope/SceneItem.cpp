@@ -7,12 +7,14 @@
 #include "FieldText.h"
 #include "NodeOrigin.h"
 #include "SceneTree.h"
+#include "ShapeGuard.h"
 
 #include <Inventor/SbName.h>
 #include <Inventor/nodes/SoNode.h>
 
 #include <QIcon>
 #include <QPainter>
+#include <QStyle>
 
 namespace
 {
@@ -65,9 +67,13 @@ QVariant SceneItem::data(int column, int role) const
     case Qt::ToolTipRole:
         return explanation();
     case Qt::AccessibleTextRole:
+        if (column == Type && isLeftOut())
+            return SceneTree::tr("%1, not drawn").arg(typeName());
         return column == Type && isShared() ? SceneTree::tr("%1, shared").arg(typeName())
                                             : data(column, Qt::DisplayRole);
     case Qt::DecorationRole:
+        if (column == Type && isLeftOut())
+            return treeWidget()->style()->standardIcon(QStyle::SP_MessageBoxWarning);
         if (column == Type && isShared())
             return sharedIcon(treeWidget()->palette().color(QPalette::Text));
         return {};
@@ -108,6 +114,8 @@ QString SceneItem::explanation() const
     QStringList lines{typeName()};
     if (isUnknown(node()))
         lines.append(SceneTree::tr("A type that is not known here; the node is kept and saved as it was read."));
+    if (isLeftOut())
+        lines.append(SceneTree::tr("Not drawn: %1.").arg(ShapeGuard::obstacle(node())));
     if (isShared()) {
         const int places = static_cast<SceneTree *>(treeWidget())->placesOf(node());
         lines.append(
@@ -118,6 +126,11 @@ QString SceneItem::explanation() const
     if (const NodeOrigin origin = NodeOrigin::of(node()); origin.kind != NodeOrigin::Scene)
         lines.append(SceneTree::tr("Cannot be edited here: %1.").arg(origin.obstacle()));
     return lines.join(QLatin1Char('\n'));
+}
+
+bool SceneItem::isLeftOut() const
+{
+    return !ShapeGuard::obstacle(node()).isEmpty();
 }
 
 bool SceneItem::isShared() const

@@ -31,6 +31,7 @@ private:
     QString typeName() const;
     QString name() const;
     QString explanation() const;
+    bool isLeftOut() const;
     bool isShared() const;
 
     std::shared_ptr<SoNode> m_node;

@@ -4,10 +4,12 @@
 #include "SceneTree.h"
 
 #include "CoinRef.h"
+#include "IndexCheck.h"
 #include "NodeOrigin.h"
 #include "NodesInFields.h"
 #include "SceneItem.h"
 #include "SceneSearch.h"
+#include "ShapeGuard.h"
 
 #include <Inventor/nodes/SoNode.h>
 
@@ -17,6 +19,7 @@
 #include <QScrollBar>
 
 #include <algorithm>
+#include <utility>
 
 SceneTree::SceneTree(QWidget *parent) : HbGUITreeviewManagement(parent)
 {
@@ -93,6 +96,7 @@ void SceneTree::scrollTo(const QModelIndex &index, ScrollHint hint)
 SceneTree::~SceneTree()
 {
     NodeOrigin::setScene(nullptr);
+    IndexCheck::setScene(nullptr);
 }
 
 void SceneTree::setScene(SoNode *root)
@@ -104,6 +108,7 @@ void SceneTree::setScene(SoNode *root)
     m_watch.watch(root);
     header()->resizeSection(SceneItem::Type, header()->sectionSizeHint(SceneItem::Type));
     NodeOrigin::setScene(root);
+    IndexCheck::setScene(root);
     if (root)
         matchChildren(invisibleRootItem(), childrenOf(root));
     if (topLevelItemCount() == 1)
@@ -185,6 +190,12 @@ void SceneTree::countPlaces() const
     }
 }
 
+void SceneTree::showUndrawn()
+{
+    if (std::exchange(m_undrawnChanges, ShapeGuard::changes()) != ShapeGuard::changes())
+        viewport()->update();
+}
+
 void SceneTree::contextMenuEvent(QContextMenuEvent *event)
 {
     const bool byMouse = event->reason() == QContextMenuEvent::Mouse;
@@ -207,6 +218,7 @@ void SceneTree::follow()
     time.start();
     m_places.clear();
     NodeOrigin::setScene(m_root.get());
+    IndexCheck::setScene(m_root.get());
     refreshBranch(invisibleRootItem(), m_root.get());
     viewport()->update();
     m_follow.setInterval(static_cast<int>(10 * time.elapsed())); // so that a moving scene leaves time for the user

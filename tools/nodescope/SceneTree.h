@@ -43,6 +43,8 @@ public:
     ScenePath pathOf(QTreeWidgetItem *item) const;
     /// In how many places of the scene a node stands.
     int placesOf(const SoNode *node) const;
+    /// Marks the shapes that the last picture has left out.
+    void showUndrawn();
 
     /// Sideways as far as to the text.
     void scrollTo(const QModelIndex &index, ScrollHint hint = EnsureVisible) override;
@@ -70,6 +72,7 @@ private:
     SceneWatch m_watch;
     QTimer m_follow; ///< pauses ten times as long as the tree took to follow the scene
     mutable std::unordered_map<const SoNode *, int> m_places; ///< counted when first asked for; 1 where missing
+    int m_undrawnChanges = 0; ///< of what is marked
 };
 
 #endif

@@ -126,6 +126,12 @@ bool TableManager::dropMisplaced()
     return true;
 }
 
+void TableManager::dropTyped()
+{
+    if (m_cells)
+        m_cells->drop();
+}
+
 SoMField *TableManager::rows() const
 {
     return static_cast<SoMField *>(field());
@@ -145,7 +151,7 @@ bool TableManager::mayEdit()
 
 void TableManager::record(std::vector<RowsChange> changes, bool wasDefault, int series)
 {
-    stack()->push(new RowsCommand(*rows(), std::move(changes), wasDefault, series));
+    push(std::make_unique<RowsCommand>(*rows(), std::move(changes), wasDefault, series));
 }
 
 void TableManager::editRow(int row, std::shared_ptr<SoMField> before, bool wasDefault,
@@ -296,7 +302,7 @@ void TableManager::mfieldSwapColumns(int first, int second)
     const KeptImages kept(*rows());
     const bool wasDefault = rows()->isDefault();
     if (FieldRows::swapColumns(*rows(), first, second))
-        stack()->push(new SwapColumnsCommand(*rows(), first, second, wasDefault));
+        push(std::make_unique<SwapColumnsCommand>(*rows(), first, second, wasDefault));
     refresh();
 }
 

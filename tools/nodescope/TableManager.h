@@ -43,6 +43,7 @@ public:
     void mfieldSetValue(int row, const void *data) override;
 
 protected:
+    void dropTyped() override;
     std::optional<double> slidNumber(const HbSlider &slider) const override;
     bool beginSlide(const HbSlider &slider) override;
     void slide(const HbSlider &slider) override;

@@ -4,6 +4,7 @@
 #include "ViewPickAction.h"
 
 #include "CoinRef.h"
+#include "ShapeGuard.h"
 
 #include <Inventor/SoFullPath.h>
 #include <Inventor/SoPickedPoint.h>
@@ -37,6 +38,11 @@ bool isNurbs(const SoNode &shape)
         if (shape.isOfType(type))
             return true;
     return false;
+}
+
+bool canRayPick(SoAction &action, SoNode &shape)
+{
+    return !ShapeGuard::isGuarded(shape) || ShapeGuard::isSafe(action, static_cast<SoShape &>(shape));
 }
 } // namespace
 
@@ -105,7 +111,7 @@ void ViewPickAction::pickShape(SoAction *action, SoNode *shape)
     auto *self = static_cast<ViewPickAction *>(action);
     if (SoDrawStyleElement::get(action->getState()) == SoDrawStyleElement::INVISIBLE)
         return;
-    if (!self->m_meetsNothing && !isNurbs(*shape)) {
+    if (!self->m_meetsNothing && !isNurbs(*shape) && canRayPick(*action, *shape)) {
         shape->rayPick(self);
         return;
     }
