@@ -8,7 +8,7 @@
 #include "tools/nodescope/FieldPanel.h"
 #include "tools/nodescope/SceneTree.h"
 #include "tools/nodescope/SceneView.h"
-#include "tools/nodescope/view/ShapeGuard.h"
+#include "tools/nodescope/scene/ShapeGuard.h"
 
 #include <HbMFieldTable.h>
 
@@ -16,8 +16,8 @@
 
 #include <Inventor/SoDB.h>
 #include <Inventor/SoInput.h>
-#include <Inventor/nodes/SoCoordinate3.h>
-#include <Inventor/nodes/SoIndexedFaceSet.h>
+#include <Inventor/fields/SoSFNode.h>
+#include <Inventor/nodes/SoMaterial.h>
 #include <Inventor/nodes/SoSeparator.h>
 
 namespace
@@ -74,8 +74,12 @@ std::vector<Case> cases()
         all.push_back({with(vrml, type, colour + "colorPerVertex FALSE colorIndex [ # ]"), 1});
     }
     const QByteArray faces = "coordIndex [ 0, 1, 2, -1 ] ";
-    all.push_back({with(vrml, "VRMLIndexedFaceSet", faces + "normal VRMLNormal { vector [ 0 0 1 ] } normalIndex [ 0, 0, # ]"), 0});
-    all.push_back({with(vrml, "VRMLIndexedFaceSet", faces + "texCoord VRMLTextureCoordinate { point [ 0 0, 1 0 ] } texCoordIndex [ 0, 1, # ]"), 1});
+    all.push_back(
+        {with(vrml, "VRMLIndexedFaceSet", faces + "normal VRMLNormal { vector [ 0 0 1 ] } normalIndex [ 0, 0, # ]"),
+         0});
+    all.push_back({with(vrml, "VRMLIndexedFaceSet",
+                        faces + "texCoord VRMLTextureCoordinate { point [ 0 0, 1 0 ] } texCoordIndex [ 0, 1, # ]"),
+                   1});
     return all;
 }
 
@@ -158,16 +162,17 @@ private Q_SLOTS:
 
     void followsTheValuesThatThereAre()
     {
-        const std::shared_ptr<SoSeparator> root = read(
-            QByteArray("Group { ") + points + "} Separator { IndexedFaceSet { coordIndex [ 0, 1, 2, -1 ] } }");
-        auto *given = static_cast<SoCoordinate3 *>(static_cast<SoGroup *>(root->getChild(0))->getChild(0));
+        const std::shared_ptr<SoSeparator> root
+            = read(with(colours, "PER_VERTEX_INDEXED") + points
+                   + "Separator { IndexedFaceSet { coordIndex [ 0, 1, 2, -1 ] materialIndex [ 0, 1, 1 ] } }");
+        auto *given = static_cast<SoMaterial *>(root->getChild(0));
         m_view->setScene(root.get());
         for (int round = 0; round < 4; ++round) // Coin begins to keep what it has drawn
             QVERIFY(!isBlank(m_view->grabFramebuffer()));
-        given->point.setNum(2);
+        given->diffuseColor.setNum(1);
         for (int round = 0; round < 4; ++round)
             QVERIFY(isBlank(m_view->grabFramebuffer()));
-        given->point.set1Value(2, 1, 1, 0);
+        given->diffuseColor.set1Value(1, 0, 0, 1);
         QVERIFY(!isBlank(m_view->grabFramebuffer()));
     }
 
@@ -178,19 +183,37 @@ private Q_SLOTS:
         QTest::addColumn<QString>("entry");
         QTest::addColumn<QString>("refusal"); // none
         const QByteArray face = QByteArray(points) + "IndexedFaceSet { coordIndex [ 0, 1, 2, -1 ] }";
-        const QByteArray own = QByteArray("IndexedFaceSet { ") + held + "coordIndex [ 0, 1, 2 ] normalIndex [ 0, 1, 0 ] }";
-        const QByteArray twice = QByteArray("Separator { ") + points + "DEF it IndexedFaceSet { coordIndex [ 0, 1, 2, -1 ] } } "
-            "Coordinate3 { point [ 0 0 0, 1 0 0, 1 1 0 ] } USE it";
-        QTest::newRow("the last") << face << "coordIndex" << "3" << "";
-        QTest::newRow("beyond") << face << "coordIndex" << "4" << "the index 4 in coordIndex is not one of the 4 coordinates";
-        QTest::newRow("in one of two places") << twice << "coordIndex" << "3" << "one of the 3 coordinates";
-        QTest::newRow("own normals") << own << "normalIndex" << "2" << "one of the 2 normals";
-        QTest::newRow("a row fewer") << own << "normalIndex" << "delete" << "normalIndex has 2 values, and at least 3";
-        QTest::newRow("a row more") << face << "coordIndex" << "add" << "";
-        QTest::newRow("too many") << QByteArray(points) + "FaceSet { numVertices [ 3 ] }" << "numVertices" << "5"
+        const QByteArray own
+            = QByteArray("IndexedFaceSet { ") + held + "coordIndex [ 0, 1, 2 ] normalIndex [ 0, 1, 0 ] }";
+        const QByteArray twice = QByteArray("Separator { ") + points
+            + "DEF it IndexedFaceSet { coordIndex [ 0, 1, 2, -1 ] } } "
+              "Coordinate3 { point [ 0 0 0, 1 0 0, 1 1 0 ] } USE it";
+        QTest::newRow("the last") << face << "coordIndex"
+                                  << "3"
+                                  << "";
+        QTest::newRow("beyond") << face << "coordIndex"
+                                << "4"
+                                << "the index 4 in coordIndex is not one of the 4 coordinates";
+        QTest::newRow("in one of two places") << twice << "coordIndex"
+                                              << "3"
+                                              << "one of the 3 coordinates";
+        QTest::newRow("own normals") << own << "normalIndex"
+                                     << "2"
+                                     << "one of the 2 normals";
+        QTest::newRow("a row fewer") << own << "normalIndex"
+                                     << "delete"
+                                     << "normalIndex has 2 values, and at least 3";
+        QTest::newRow("a row more") << face << "coordIndex"
+                                    << "add"
+                                    << "";
+        QTest::newRow("too many") << QByteArray(points) + "FaceSet { numVertices [ 3 ] }"
+                                  << "numVertices"
+                                  << "5"
                                   << "it takes 5 coordinates, and there are 4";
         QTest::newRow("it was no better") << QByteArray(points) + "IndexedFaceSet { coordIndex [ 9, 9, 9, -1 ] }"
-                                          << "coordIndex" << "8" << "";
+                                          << "coordIndex"
+                                          << "8"
+                                          << "";
     }
     void thePanelRefusesWhatPointsToNothing()
     {

@@ -4,6 +4,7 @@
 #include "SceneView.h"
 
 #include "CoinRef.h"
+#include "ShapeGuard.h"
 #include "ViewRenderAction.h"
 
 #include <Inventor/SbLine.h>
@@ -101,6 +102,7 @@ SceneView::~SceneView()
 
 void SceneView::setScene(SoNode *root)
 {
+    ShapeGuard::forget();
     m_scene = coinRef(root);
     m_selected.reset();
     m_shown = false;

@@ -37,15 +37,14 @@ const SoMFInt32 *indicesIn(const SoShape &shape, const char *name)
 
 QString beyond(int index, const QString &list, const Values &values)
 {
-    return values.count > 0 ? tr("the index %1 in %2 is not one of the %3 %4 (0 to %5)")
-                                  .arg(index)
-                                  .arg(list)
-                                  .arg(values.count)
-                                  .arg(values.name)
-                                  .arg(values.count - 1)
-                            : tr("the index %1 in %2 points to nothing, as there are no %3")
-                                  .arg(index)
-                                  .arg(list, values.name);
+    return values.count > 0
+        ? tr("the index %1 in %2 is not one of the %3 %4 (0 to %5)")
+              .arg(index)
+              .arg(list)
+              .arg(values.count)
+              .arg(values.name)
+              .arg(values.count - 1)
+        : tr("the index %1 in %2 points to nothing, as there are no %3").arg(index).arg(list, values.name);
 }
 
 QString tooFew(std::int64_t needed, const Values &values)
@@ -118,11 +117,10 @@ QString faultOf(const SoShape &shape, const ShapeSupply &supply, bool isPicked)
     ShapeOutline outline(shape, supply.coordinates);
     if (!outline.fault().isEmpty())
         return outline.fault();
-    const Values all[] = {
-        {tr("normals"), supply.normals, supply.normalBinding, "normalIndex", "normalIndex"},
-        {tr("materials"), supply.materials, supply.materialBinding, "materialIndex", "colorIndex"},
-        {tr("texture coordinates"), supply.textureCoordinates, SoMaterialBindingElement::PER_VERTEX_INDEXED,
-         "textureCoordIndex", "texCoordIndex"}};
+    const Values all[] = {{tr("normals"), supply.normals, supply.normalBinding, "normalIndex", "normalIndex"},
+                          {tr("materials"), supply.materials, supply.materialBinding, "materialIndex", "colorIndex"},
+                          {tr("texture coordinates"), supply.textureCoordinates,
+                           SoMaterialBindingElement::PER_VERTEX_INDEXED, "textureCoordIndex", "texCoordIndex"}};
     QString fault = faultInCorners(outline, {tr("coordinates"), supply.coordinates, {}, nullptr, nullptr});
     for (const Values &values : all)
         if (fault.isEmpty())

@@ -127,6 +127,12 @@ QString ShapeGuard::obstacle(const SoNode *node)
     return found != drawn.end() && found->second.nodeId == node->getNodeId() ? found->second.fault : QString();
 }
 
+void ShapeGuard::forget()
+{
+    drawn.clear();
+    picked.clear();
+}
+
 int ShapeGuard::changes()
 {
     return changeCount;

@@ -24,6 +24,8 @@ bool isSafe(SoAction &action, SoShape &shape);
 
 /// Why the node is not drawn, as the end of a sentence; empty for one that is. As the last picture has found it.
 QString obstacle(const SoNode *node);
+/// What was found about the nodes of a scene that is shown no longer.
+void forget();
 /// Changes with what obstacle() tells.
 int changes();
 } // namespace ShapeGuard

@@ -120,7 +120,8 @@ std::int64_t ShapeOutline::reads(ShapeSupply::Binding binding) const
     case Strips:
         return isPart ? runs : partsLess(2);
     case Mesh:
-        return isPart || runs == 0 ? std::max(runs - 1, std::int64_t(0)) : (runs - 1) * std::max(m_runs[0] - 1, std::int64_t(0));
+        return isPart || runs == 0 ? std::max(runs - 1, std::int64_t(0))
+                                   : (runs - 1) * std::max(m_runs[0] - 1, std::int64_t(0));
     default:
         return runs;
     }

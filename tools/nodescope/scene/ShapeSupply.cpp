@@ -45,8 +45,7 @@ ShapeSupply::Binding vrmlBinding(const SoShape &shape, const char *perVertex, co
     const auto *const list = static_cast<const SoMField *>(shape.getField(indices));
     if (!flag || flag->getValue())
         return SoMaterialBindingElement::PER_VERTEX_INDEXED;
-    return list && list->getNum() > 0 ? SoMaterialBindingElement::PER_FACE_INDEXED
-                                      : SoMaterialBindingElement::PER_FACE;
+    return list && list->getNum() > 0 ? SoMaterialBindingElement::PER_FACE_INDEXED : SoMaterialBindingElement::PER_FACE;
 }
 
 /// VRML's shapes hold everything themselves.
