@@ -1,7 +1,7 @@
 # SPDX-FileCopyrightText: 2026 The HarborAPI authors
 # SPDX-License-Identifier: BSD-3-Clause
 #
-# What every target shares: which Qt, which warnings, which sanitizers.
+# What every target shares: which Qt, which warnings, which sanitizers, and whether it counts what it runs.
 
 if(NOT HARBOR_QT_MAJOR)
   find_package(Qt6 QUIET COMPONENTS Widgets)
@@ -32,4 +32,8 @@ if(HARBOR_SANITIZE)
   target_compile_options(harbor_options INTERFACE
     -fsanitize=${HARBOR_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=undefined)
   target_link_options(harbor_options INTERFACE -fsanitize=${HARBOR_SANITIZE})
+endif()
+if(HARBOR_COVERAGE)
+  target_compile_options(harbor_options INTERFACE --coverage -fprofile-update=atomic)
+  target_link_options(harbor_options INTERFACE --coverage)
 endif()

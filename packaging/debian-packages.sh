@@ -10,6 +10,7 @@ packages_build="g++ cmake ninja-build ccache qt6-base-dev libqt6opengl6-dev libc
 packages_run="libgl1-mesa-dri fontconfig fonts-dejavu-core"
 packages_virtual_display="xvfb xauth"
 packages_test="pkg-config xdotool openbox inventor-data $packages_run $packages_virtual_display"
+packages_coverage="gcovr"
 packages_test_all="qtbase5-dev clang libbenchmark-dev"
 
 # install_packages PACKAGE...: installs those that are missing; asks neither apt nor the network if none is.

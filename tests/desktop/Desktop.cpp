@@ -88,6 +88,10 @@ void Desktop::stop()
         fail(QStringLiteral("nodescope has died: ") + QString::fromLocal8Bit(m_output.right(4000)));
     else if (m_output.contains("runtime error:") || m_output.contains("AddressSanitizer"))
         fail(QString::fromLocal8Bit(m_output.right(4000)));
+    if (COUNTS_LINES) { // which a killed process does not tell
+        m_tool.closeWriteChannel();
+        m_tool.waitForFinished(patience);
+    }
     m_tool.kill();
     m_tool.waitForFinished();
     m_output.clear();

@@ -3,9 +3,10 @@
 
 #include "Monkey.h"
 
+#include "Soak.h"
+
 #include <QCommandLineParser>
 #include <QCoreApplication>
-#include <QDateTime>
 #include <QElapsedTimer>
 #include <QProcess>
 #include <QVector>
@@ -62,6 +63,14 @@ int play(const MonkeyPlan &plan, quint32 first, quint32 count, const Steps &step
         return 1;
     }
     return 0;
+}
+
+QString playFixedRuns(const MonkeyPlan &plan, const Steps &steps)
+{
+    for (quint32 seed = 0; seed < static_cast<quint32>(plan.runs); ++seed)
+        if (const QString fault = playRun(plan, seed, steps, false); !fault.isEmpty())
+            return QStringLiteral("seed %1 fails %2").arg(seed).arg(fault);
+    return {};
 }
 
 struct Outcome {
@@ -129,7 +138,8 @@ int runMonkey(const QStringList &arguments, const MonkeyPlan &plan)
     parser.addOptions({{QStringLiteral("seed"), {}, QStringLiteral("number")},
                        {QStringLiteral("only"), {}, QStringLiteral("steps")},
                        {QStringLiteral("play"), {}, QStringLiteral("runs")},
-                       {QStringLiteral("minutes"), {}, QStringLiteral("number")}});
+                       {QStringLiteral("minutes"), {}, QStringLiteral("number")},
+                       {QStringLiteral("soak"), {}, QStringLiteral("rounds")}});
     parser.process(arguments);
     Steps steps(plan.steps);
     std::iota(steps.begin(), steps.end(), 0);
@@ -145,11 +155,15 @@ int runMonkey(const QStringList &arguments, const MonkeyPlan &plan)
     if (parser.isSet(QStringLiteral("seed")))
         return play(plan, seed, 1, steps, true);
 
+    if (parser.isSet(QStringLiteral("soak")))
+        return soak(parser.value(QStringLiteral("soak")).toInt(), [&] { return playFixedRuns(plan, steps); });
+
     constexpr quint32 batch = 50; // runs of one process
     const qint64 limit = parser.value(QStringLiteral("minutes")).toLongLong() * 60 * 1000;
     if (limit > 0)
-        seed = static_cast<quint32>(QDateTime::currentSecsSinceEpoch());
+        seed = QRandomGenerator::global()->generate() / 2; // leaves room to count on
     const quint32 first = seed;
+    print(QStringLiteral("from seed %1").arg(first));
     QElapsedTimer time;
     time.start();
     while (limit > 0 ? time.elapsed() < limit : seed < first + static_cast<quint32>(plan.runs)) {
@@ -158,6 +172,10 @@ int runMonkey(const QStringList &arguments, const MonkeyPlan &plan)
             return report(outcome, steps);
         seed += batch;
     }
-    print(QStringLiteral("seeds %1 to %2, %3 steps each: no fault").arg(first).arg(seed - 1).arg(plan.steps));
+    print(QStringLiteral("seeds %1 to %2, %3 steps each, %4 in all: no fault")
+              .arg(first)
+              .arg(seed - 1)
+              .arg(plan.steps)
+              .arg(qint64(seed - first) * plan.steps));
     return 0;
 }

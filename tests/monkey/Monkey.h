@@ -41,6 +41,7 @@ struct MonkeyPlan {
  *
  *     monkey                     the fixed runs
  *     monkey --minutes 120       other runs for that long; the first seed is printed
+ *     monkey --soak 10           the fixed runs ten times in one process, which must not grow
  *     monkey --seed 17           one run, told step by step
  *     monkey --seed 17 --only 3,8,21
  */

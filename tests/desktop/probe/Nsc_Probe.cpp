@@ -231,9 +231,10 @@ Nsc_Probe::Nsc_Probe(HbGUIManagement *management) : HbGUIComponents(management)
 {
     QObject::connect(&m_input, &QSocketNotifier::activated, this, [this] {
         char question = 0;
-        if (read(STDIN_FILENO, &question, 1) != 1)
+        if (read(STDIN_FILENO, &question, 1) != 1) {
             m_input.setEnabled(false); // the test has ended
-        else if (question == '\n')
+            QCoreApplication::exit();
+        } else if (question == '\n')
             QTimer::singleShot(20, this, [this] { answer(); }); // what was clicked or typed before comes first
     });
 }
