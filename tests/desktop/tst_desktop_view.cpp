@@ -142,8 +142,8 @@ private Q_SLOTS:
         const QImage before = picture(tool);
         const QRect small = boxOf(tool, isRed);
         tool.click(tool.view().topLeft() + small.center());
-        QTRY_VERIFY(picture(tool).pixelColor(small.left() - 1, small.center().y())
-                    != before.pixelColor(small.left() - 1, small.center().y()));
+        QTRY_VERIFY(picture(tool).pixelColor(small.left() - 2, small.center().y())
+                    != before.pixelColor(small.left() - 2, small.center().y()));
         QCOMPARE(picture(tool).pixelColor(small.center()), before.pixelColor(small.center()));
         tool.press("f");
         QTRY_VERIFY(boxOf(tool, isRed).height() > tool.view().width() / 2);

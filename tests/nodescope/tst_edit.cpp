@@ -179,7 +179,7 @@ private Q_SLOTS:
     void ignoreUndoneInDragLeavesNoTrace()
     {
         const QByteArray before = saved(*m_cone);
-        for (const auto &[moved, movesOn] : {std::pair(0, false), {30, false}, {30, true}}) {
+        for (const auto &[moved, movesOn] : {std::pair(0, false), {10, false}, {10, true}}) {
             m_panel->editorOf("height")->findChild<QPushButton *>("m_ignoreButton")->click();
             const QPoint at = handleOf(slider());
             QTest::mousePress(slider(), Qt::LeftButton, {}, at);
