@@ -82,6 +82,19 @@ private Q_SLOTS:
         QCOMPARE(last->radius.getValue(), 3.0f);
     }
 
+    void defaultThatIsWrittenOutIsNoChange()
+    {
+        const Ref<SoCone> node;
+        const auto isChanged
+            = [this] { return m_panel->editorOf("parts")->findChild<QPushButton *>("m_defaultButton")->isEnabled(); };
+        node->parts.setDefault(FALSE);
+        m_panel->setNode(node);
+        QVERIFY(!isChanged());
+        node->parts = SoCone::SIDES;
+        QApplication::processEvents();
+        QVERIFY(isChanged());
+    }
+
     void pageThatDiesWithTheFocus()
     {
         const Ref<SoMatrixTransform> node;

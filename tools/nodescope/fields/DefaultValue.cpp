@@ -5,6 +5,7 @@
 
 #include <Inventor/fields/SoFieldContainer.h>
 #include <Inventor/fields/SoMField.h>
+#include <Inventor/fields/SoSFEnum.h>
 
 bool DefaultValue::isUnlike(const SoField &field)
 {
@@ -21,5 +22,7 @@ bool DefaultValue::isUnlike(const SoField &field)
     const bool hasRows = field.isOfType(SoMField::getClassTypeId());
     if (hasRows && static_cast<const SoMField &>(field).getNum() != static_cast<const SoMField &>(standard).getNum())
         return true; // nobody compares a million values
+    if (field.isOfType(SoSFEnum::getClassTypeId())) // whose copy has the number, but not the names
+        return static_cast<const SoSFEnum &>(field).getValue() != static_cast<const SoSFEnum &>(standard).getValue();
     return !field.isSame(standard);
 }
