@@ -1,10 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The HarborAPI authors
 // SPDX-License-Identifier: BSD-3-Clause
 
-#include "TestSupport.h"
+#include "FileFixture.h"
 
 #include "tools/nodescope/CoinRef.h"
-#include "tools/nodescope/CoinSetup.h"
 #include "tools/nodescope/FieldText.h"
 #include "tools/nodescope/SceneDocument.h"
 #include "tools/nodescope/ScenePath.h"
@@ -12,7 +11,6 @@
 #include "tools/nodescope/scene/SourceText.h"
 
 #include <QProcess>
-#include <QTemporaryDir>
 
 #include <Inventor/nodes/SoSeparator.h>
 
@@ -25,26 +23,14 @@ namespace
 {
 const QByteArray inventor = "#Inventor V2.1 ascii\n";
 
-QByteArray contentOf(const QString &fileName)
-{
-    QFile file(fileName);
-    file.open(QIODevice::ReadOnly);
-    return file.readAll();
-}
 } // namespace
 
 /// What happens to a file that is opened and saved.
-class TestFiles : public QObject
+class TestFiles : public FileFixture
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase()
-    {
-        setUpCoin(false);
-        Complaints::listen();
-    }
-
     void lossesOfAFile()
     {
         struct Row {
@@ -203,16 +189,6 @@ private:
     private:
         rlimit m_before = {};
     };
-
-    QString write(const QByteArray &content, const char *name = "scene.iv")
-    {
-        QFile file(m_directory.filePath(name));
-        file.open(QIODevice::WriteOnly);
-        file.write(content);
-        return file.fileName();
-    }
-
-    QTemporaryDir m_directory;
 };
 
 QTEST_MAIN(TestFiles)

@@ -1,10 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The HarborAPI authors
 // SPDX-License-Identifier: BSD-3-Clause
 
-#include "TestSupport.h"
+#include "FileFixture.h"
 
 #include "tools/nodescope/CoinMessages.h"
-#include "tools/nodescope/CoinSetup.h"
 #include "tools/nodescope/FieldLength.h"
 #include "tools/nodescope/FieldPanel.h"
 #include "tools/nodescope/SceneDocument.h"
@@ -16,7 +15,6 @@
 #include "tools/nodescope/tree/SceneSearch.h"
 
 #include <QProcess>
-#include <QTemporaryDir>
 
 #include <Inventor/nodes/SoIndexedFaceSet.h>
 #include <Inventor/nodes/SoSeparator.h>
@@ -25,13 +23,6 @@
 
 namespace
 {
-QByteArray contentOf(const QString &fileName)
-{
-    QFile file(fileName);
-    file.open(QIODevice::ReadOnly);
-    return file.readAll();
-}
-
 /// Whatever goes through a scene does so, and comes back.
 void lookAround(SoNode *root)
 {
@@ -55,18 +46,11 @@ void lookAround(SoNode *root)
 } // namespace
 
 /// Files that nobody should have made: each is opened, or refused with a reason, and one that is opened can be saved.
-class TestHostile : public QObject
+class TestHostile : public FileFixture
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase()
-    {
-        setUpCoin(false);
-        Complaints::listen();
-    }
-    void cleanup() { QCOMPARE(Complaints::take(), QByteArray()); }
-
     void opensOrSaysWhyNot_data()
     {
         QTest::addColumn<QString>("file");
@@ -191,10 +175,7 @@ private Q_SLOTS:
 private:
     QString write(const QByteArray &content)
     {
-        QFile file(m_directory.filePath(QString::number(m_files++)));
-        file.open(QIODevice::WriteOnly);
-        file.write(content);
-        return file.fileName();
+        return FileFixture::write(content, QString::number(m_files++));
     }
 
     QByteArray packed(const QByteArray &content)
@@ -212,7 +193,6 @@ private:
         return name;
     }
 
-    QTemporaryDir m_directory;
     int m_files = 0;
 };
 

@@ -1,9 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The HarborAPI authors
 // SPDX-License-Identifier: BSD-3-Clause
 
-#include "TestSupport.h"
+#include "FileFixture.h"
 
-#include "tools/nodescope/CoinSetup.h"
 #include "tools/nodescope/FieldPanel.h"
 #include "tools/nodescope/MainWindow.h"
 #include "tools/nodescope/SceneDocument.h"
@@ -11,7 +10,6 @@
 
 #include <QAction>
 #include <QProcess>
-#include <QTemporaryDir>
 
 #include <Inventor/nodes/SoCone.h>
 #include <Inventor/nodes/SoCube.h>
@@ -23,27 +21,14 @@ namespace
 const QString bundledScene = QStringLiteral(HARBOR_SOURCE_DIR "/examples/scenes/harbour.iv");
 const QString windmillScene = QStringLiteral(HARBOR_SOURCE_DIR "/examples/scenes/windmill.iv");
 
-QByteArray contentOf(const QString &fileName)
-{
-    QFile file(fileName);
-    file.open(QIODevice::ReadOnly);
-    return file.readAll();
-}
 } // namespace
 
 /// Scenes from file to file, the tree that shows them, and the whole tool on a real scene.
-class TestScene : public QObject
+class TestScene : public FileFixture
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase()
-    {
-        setUpCoin(false);
-        Complaints::listen();
-    }
-    void cleanup() { QCOMPARE(Complaints::take(), QByteArray()); }
-
     void savedAsItWasOpened()
     {
         const std::pair<QByteArray, QByteArray> rows[] = {
@@ -56,7 +41,7 @@ private Q_SLOTS:
             {"\n", ""},
         };
         for (const auto &[content, kept] : rows) {
-            const QString original = write(QStringLiteral("scene.iv"), "#Inventor V2.1 ascii\n\n" + content);
+            const QString original = write("#Inventor V2.1 ascii\n\n" + content);
             const QString first = m_directory.filePath(QStringLiteral("first.iv"));
             const QString second = m_directory.filePath(QStringLiteral("second.iv"));
             QStringList messages;
@@ -96,7 +81,7 @@ private Q_SLOTS:
         const QByteArray headers[] = {"#Inventor V2.1 ascii", "#VRML V1.0 ascii", "#VRML V2.0 utf8"};
         for (const QByteArray &header : headers) {
             const QByteArray cone = header.contains("V2.0") ? "Shape { geometry Cone { } }" : "Cone { }";
-            checkFormat(write(QStringLiteral("scene"), header + "\n" + cone), header);
+            checkFormat(write(header + "\n" + cone, QStringLiteral("scene")), header);
         }
         const Ref<SoSeparator> root;
         const QString fileName = m_directory.filePath(QStringLiteral("scene"));
@@ -181,16 +166,6 @@ private:
         QVERIFY(contentOf(fileName).startsWith(start));
         QVERIFY(document.open(fileName, &messages));
     }
-
-    QString write(const QString &name, const QByteArray &content)
-    {
-        QFile file(m_directory.filePath(name));
-        file.open(QIODevice::WriteOnly);
-        file.write(content);
-        return file.fileName();
-    }
-
-    QTemporaryDir m_directory;
 };
 
 QTEST_MAIN(TestScene)
