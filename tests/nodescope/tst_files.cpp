@@ -22,7 +22,6 @@
 namespace
 {
 const QByteArray inventor = "#Inventor V2.1 ascii\n";
-
 } // namespace
 
 /// What happens to a file that is opened and saved.
